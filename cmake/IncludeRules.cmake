@@ -1,0 +1,80 @@
+# Who may include whom, as docs/architecture.md has it. Run as a script (cmake -DROOT=... -P IncludeRules.cmake) it
+# fails with a line for each include that the table does not allow; included by the project it makes every build do so.
+
+cmake_minimum_required(VERSION 3.25)
+
+if(NOT CMAKE_SCRIPT_MODE_FILE)
+  add_custom_target(include_rules ALL
+    COMMAND "${CMAKE_COMMAND}" "-DROOT=${PROJECT_SOURCE_DIR}" -P "${CMAKE_CURRENT_LIST_FILE}"
+    COMMENT "Checking who includes whom" VERBATIM)
+  return()
+endif()
+
+# Layers from the most to the least specific folder: a file belongs to the first whose folder it lies in. After each
+# folder: the folders (or single headers) whose files it may include beside its own. `outside` is what a Windows
+# program would find in the system and in the host's installation.
+set(layers
+  "module/storage: utils outside"
+  "module/raid: module/storage utils core outside Qt"
+  "core:"
+  "utils: core outside Qt"
+  "platform: simulation core utils/text/string_handler.h outside"
+  "simulation: Qt"
+  "host: core module/raid/device_records.h Qt CLI windows.h"
+  "tests: *")
+set(outside_headers "windows.h|setupapi.h|winioctl.h|ntddscsi.h|hostkit.h")
+
+function(layer_of path result)
+  foreach(layer IN LISTS layers)
+    string(REGEX REPLACE ":.*" "" folder "${layer}")
+    if(path MATCHES "^${folder}/")
+      set(${result} "${folder}" PARENT_SCOPE)
+      return()
+    endif()
+  endforeach()
+  set(${result} "" PARENT_SCOPE)
+endfunction()
+
+set(bad 0)
+file(GLOB_RECURSE files RELATIVE "${ROOT}"
+  "${ROOT}/core/*" "${ROOT}/utils/*" "${ROOT}/module/*" "${ROOT}/platform/*" "${ROOT}/simulation/*" "${ROOT}/host/*")
+foreach(file IN LISTS files)
+  if(NOT file MATCHES "\\.(h|cpp)$")
+    continue()
+  endif()
+  layer_of("${file}" own)
+  foreach(layer IN LISTS layers)
+    if(layer MATCHES "^${own}: ?(.*)")
+      separate_arguments(allowed UNIX_COMMAND "${CMAKE_MATCH_1}")
+      break()
+    endif()
+  endforeach()
+  file(STRINGS "${ROOT}/${file}" includes REGEX "^[ \t]*#[ \t]*include")
+  foreach(include IN LISTS includes)
+    if(include MATCHES "\"(.*)\"")
+      set(target "${CMAKE_MATCH_1}")
+      layer_of("${target}" layer)
+      if(NOT layer AND file MATCHES "^platform/windows/include/")
+        continue()  # the stand-in headers lie side by side, as the system's do
+      endif()
+    elseif(include MATCHES "<(Q[A-Za-z]+)>")
+      set(target "${CMAKE_MATCH_1}")
+      set(layer Qt)
+    elseif(include MATCHES "<(CLI/.*)>")
+      set(target "${CMAKE_MATCH_1}")
+      set(layer CLI)
+    elseif(include MATCHES "<(${outside_headers})>")
+      set(target "${CMAKE_MATCH_1}")
+      set(layer outside)
+    else()
+      continue()
+    endif()
+    if(NOT layer STREQUAL own AND NOT layer IN_LIST allowed AND NOT target IN_LIST allowed)
+      message("${file}: may not include ${target}")
+      set(bad 1)
+    endif()
+  endforeach()
+endforeach()
+if(bad)
+  message(FATAL_ERROR "The table in docs/architecture.md says who may include whom.")
+endif()

@@ -1,0 +1,63 @@
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+# Everything that is loaded or run lies side by side, as it does where the product is installed.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+set(CMAKE_BUILD_RPATH "$ORIGIN")
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+
+# On Windows the module can be built to meet the simulated machine in the system's place; elsewhere it always does.
+option(ORVIK_SIMULATED "Meet the simulated machine instead of the system's own" ON)
+if(WIN32)
+  set(CMAKE_SHARED_LIBRARY_PREFIX "")
+endif()
+
+# "slots", "signals" and "emit" are plain words here.
+add_compile_definitions(QT_NO_KEYWORDS)
+
+set(ORVIK_SANITIZE "" CACHE STRING "Sanitizers for -fsanitize=, comma separated")
+
+add_library(orvik_options INTERFACE)
+target_compile_options(orvik_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
+  -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough -Werror)
+if(ORVIK_SANITIZE)
+  # Host and module know each other's objects by their slots alone, so their types can't be compared.
+  target_compile_options(orvik_options INTERFACE
+    -fsanitize=${ORVIK_SANITIZE} -fno-sanitize=vptr -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(orvik_options INTERFACE -fsanitize=${ORVIK_SANITIZE})
+endif()
+
+# Every target of ours includes from the repository root ("utils/text/string_handler.h"); who may include whom is
+# checked by IncludeRules.cmake and by what each target links.
+function(orvik_target name)
+  target_link_libraries(${name} PRIVATE orvik_options)
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
+endfunction()
+
+# Makes a plug-in library: no "lib" before its name, and of its symbols only the given functions of the given source
+# file are visible, undecorated.
+function(orvik_exports name source)
+  set(list "${CMAKE_CURRENT_BINARY_DIR}/${name}")
+  set_target_properties(${name} PROPERTIES PREFIX "")
+  if(WIN32 AND ORVIK_SIMULATED)
+    # Both variants lie in one folder of an installation.
+    set_target_properties(${name} PROPERTIES OUTPUT_NAME "${name}_simulated")
+  endif()
+  if(WIN32)
+    list(JOIN ARGN "\n  " names)
+    file(CONFIGURE OUTPUT "${list}.def" CONTENT "EXPORTS\n  @names@\n" @ONLY)
+    target_sources(${name} PRIVATE "${list}.def")
+  else()
+    list(JOIN ARGN "; " names)
+    file(CONFIGURE OUTPUT "${list}.map" CONTENT "{ global: @names@; local: *; };\n" @ONLY)
+    set_source_files_properties(${source} PROPERTIES COMPILE_OPTIONS -fvisibility=default)
+    target_link_options(${name} PRIVATE "LINKER:--version-script=${list}.map" "LINKER:-z,defs")
+    set_target_properties(${name} PROPERTIES LINK_DEPENDS "${list}.map")
+  endif()
+endfunction()
