@@ -1,0 +1,15 @@
+#include <windows.h>
+
+namespace {
+
+thread_local DWORD lastError = NO_ERROR;
+
+}  // namespace
+
+DWORD WINAPI GetLastError() {
+  return lastError;
+}
+
+void WINAPI SetLastError(DWORD code) {
+  lastError = code;
+}

@@ -1,0 +1,77 @@
+// Files of the machine: opening device interfaces by path and sending I/O control requests to them.
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "platform/windows/failure.h"
+#include "platform/windows/handle_table.h"
+#include "platform/windows/wide_text.h"
+#include "simulation/machine/current_machine.h"
+
+namespace windows = orvik::platform::windows;
+namespace simulation = orvik::simulation;
+
+namespace {
+
+// An open file keeps its machine, also when another one has been installed since.
+struct File {
+  std::shared_ptr<simulation::Machine> machine;
+  std::shared_ptr<simulation::IoDevice> device;
+};
+
+windows::HandleTable<File>& Files() {
+  static auto& files = *new windows::HandleTable<File>(0x100);
+  return files;
+}
+
+HANDLE FailToOpen(DWORD error) {
+  SetLastError(error);
+  return INVALID_HANDLE_VALUE;
+}
+
+}  // namespace
+
+HANDLE WINAPI CreateFileW(LPCWSTR name, DWORD /*access*/, DWORD /*share*/, LPSECURITY_ATTRIBUTES /*security*/,
+                          DWORD disposition, DWORD /*flags*/, HANDLE /*pattern*/) {
+  const auto machine = simulation::CurrentMachine();
+  if (const auto error = windows::InjectedError(*machine, "CreateFileW")) return FailToOpen(*error);
+  if (name == nullptr || disposition != OPEN_EXISTING) return FailToOpen(ERROR_INVALID_PARAMETER);
+  auto device = machine->Find(windows::ToUtf8(name));
+  if (device == nullptr) return FailToOpen(ERROR_FILE_NOT_FOUND);
+  machine->Ledger().Take(simulation::Resource::FileHandle);
+  return Files().Add(std::make_shared<File>(File{machine, std::move(device)}));
+}
+
+BOOL WINAPI CloseHandle(HANDLE handle) {
+  const auto file = Files().Remove(handle);
+  if (file == nullptr) {
+    simulation::CurrentMachine()->Ledger().InvalidRelease(simulation::Resource::FileHandle);
+    return windows::Fail(ERROR_INVALID_HANDLE);
+  }
+  file->machine->Ledger().Return(simulation::Resource::FileHandle);
+  return TRUE;
+}
+
+// As METHOD_BUFFERED has it: one system buffer carries the request in and the answer out, so that only what the
+// device returns reaches the caller's output buffer.
+BOOL WINAPI DeviceIoControl(HANDLE device, DWORD code, LPVOID input, DWORD inputSize, LPVOID output, DWORD outputSize,
+                            LPDWORD returned, LPOVERLAPPED /*overlapped*/) {
+  const auto file = Files().Find(device);
+  if (file == nullptr) return windows::Fail(ERROR_INVALID_HANDLE);
+  const bool missing = (input == nullptr && inputSize != 0) || (output == nullptr && outputSize != 0);
+  if (returned == nullptr || missing) return windows::Fail(ERROR_INVALID_PARAMETER);
+
+  std::vector<std::uint8_t> buffer(std::max(inputSize, outputSize));
+  std::copy_n(static_cast<const std::uint8_t*>(input), inputSize, buffer.begin());
+  const auto result = file->machine->Control(*file->device, code, buffer, inputSize, outputSize);
+  *returned = 0;
+  if (result.error != NO_ERROR) return windows::Fail(result.error);
+  const std::size_t size = std::min<std::size_t>(result.returned, outputSize);
+  std::copy_n(buffer.begin(), size, static_cast<std::uint8_t*>(output));
+  *returned = static_cast<DWORD>(size);
+  return TRUE;
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <windows.h>
+
+#include <bit>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <utility>
+
+namespace orvik::platform::windows {
+
+/// The objects behind handles of one kind. A handle value is never given out twice, so that a use after closing is
+/// noticed. May be used from several threads.
+template <typename Object>
+class HandleTable {
+ public:
+  /// `first`: the value of the first handle; the ranges of two tables do not meet.
+  explicit HandleTable(ULONG_PTR first) : next_(first) {}
+
+  HANDLE Add(std::shared_ptr<Object> object) {
+    const std::scoped_lock lock(mutex_);
+    const ULONG_PTR value = next_;
+    next_ += 4;
+    objects_.emplace(value, std::move(object));
+    return std::bit_cast<HANDLE>(value);
+  }
+
+  std::shared_ptr<Object> Find(HANDLE handle) const {
+    const std::scoped_lock lock(mutex_);
+    const auto found = objects_.find(std::bit_cast<ULONG_PTR>(handle));
+    return found == objects_.end() ? nullptr : found->second;
+  }
+
+  /// Null when there is no such handle.
+  std::shared_ptr<Object> Remove(HANDLE handle) {
+    const std::scoped_lock lock(mutex_);
+    const auto node = objects_.extract(std::bit_cast<ULONG_PTR>(handle));
+    return node.empty() ? nullptr : node.mapped();
+  }
+
+ private:
+  mutable std::mutex mutex_;
+  ULONG_PTR next_;
+  std::map<ULONG_PTR, std::shared_ptr<Object>> objects_;
+};
+
+}  // namespace orvik::platform::windows

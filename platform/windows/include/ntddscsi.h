@@ -1,0 +1,7 @@
+#pragma once
+
+#include "winioctl.h"
+
+inline constexpr DWORD IOCTL_SCSI_BASE = FILE_DEVICE_CONTROLLER;
+inline constexpr DWORD IOCTL_SCSI_MINIPORT =
+    CTL_CODE(IOCTL_SCSI_BASE, 0x0402, METHOD_BUFFERED, FILE_READ_ACCESS | FILE_WRITE_ACCESS);

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "windef.h"
+
+inline constexpr DWORD FILE_DEVICE_CONTROLLER = 0x00000004;
+inline constexpr DWORD METHOD_BUFFERED = 0;
+inline constexpr DWORD FILE_READ_ACCESS = 0x0001;
+inline constexpr DWORD FILE_WRITE_ACCESS = 0x0002;
+
+#define CTL_CODE(deviceType, function, method, access) \
+  (((deviceType) << 16) | ((access) << 14) | ((function) << 2) | (method))

@@ -1,0 +1,70 @@
+// Threads and processors, over POSIX threads.
+
+#include <pthread.h>
+#include <sched.h>
+#include <unistd.h>
+#include <windows.h>
+
+#include <bit>
+
+#include "platform/windows/failure.h"
+#include "simulation/machine/current_machine.h"
+
+namespace windows = orvik::platform::windows;
+
+namespace {
+
+constexpr unsigned kMaskBits = 64;
+
+DWORD_PTR ToMask(const cpu_set_t& processors) {
+  DWORD_PTR mask = 0;
+  for (unsigned i = 0; i < kMaskBits; ++i) {
+    if (CPU_ISSET(i, &processors)) mask |= DWORD_PTR{1} << i;
+  }
+  return mask;
+}
+
+cpu_set_t ToSet(DWORD_PTR mask) {
+  cpu_set_t processors;
+  CPU_ZERO(&processors);
+  for (unsigned i = 0; i < kMaskBits; ++i) {
+    if ((mask >> i & 1) != 0) CPU_SET(i, &processors);
+  }
+  return processors;
+}
+
+// What the process was given when it started to bind threads.
+DWORD_PTR ProcessMask() {
+  static const DWORD_PTR mask = [] {
+    cpu_set_t processors;
+    CPU_ZERO(&processors);
+    return sched_getaffinity(getpid(), sizeof(processors), &processors) == 0 ? ToMask(processors) : 0;
+  }();
+  return mask;
+}
+
+}  // namespace
+
+HANDLE WINAPI GetCurrentThread() {
+  return std::bit_cast<HANDLE>(~ULONG_PTR{1});
+}
+
+DWORD_PTR WINAPI SetThreadAffinityMask(HANDLE thread, DWORD_PTR mask) {
+  const auto machine = orvik::simulation::CurrentMachine();
+  machine->Ledger().RecordAffinityRequest(mask);
+  const auto fail = [](DWORD error) -> DWORD_PTR {
+    SetLastError(error);
+    return 0;
+  };
+  if (const auto error = windows::InjectedError(*machine, "SetThreadAffinityMask")) return fail(*error);
+  if (thread != GetCurrentThread()) return fail(ERROR_INVALID_HANDLE);
+
+  cpu_set_t previous;
+  CPU_ZERO(&previous);
+  if (pthread_getaffinity_np(pthread_self(), sizeof(previous), &previous) != 0) return fail(ERROR_INVALID_PARAMETER);
+  const cpu_set_t wanted = ToSet(mask & ProcessMask());
+  if (CPU_COUNT(&wanted) == 0 || pthread_setaffinity_np(pthread_self(), sizeof(wanted), &wanted) != 0) {
+    return fail(ERROR_INVALID_PARAMETER);
+  }
+  return ToMask(previous);
+}

@@ -1,0 +1,44 @@
+#include "simulation/adapters/adapter.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "simulation/csmi/csmi_layout.h"
+#include "simulation/machine/io_errors.h"
+
+namespace orvik::simulation {
+
+namespace {
+
+constexpr std::uint32_t kIoctlScsiMiniport = 0x0004D008;
+
+// The port driver's own checks of a miniport request. 0 when the miniport may have it.
+std::uint32_t CheckHeader(std::span<const std::uint8_t> buffer, std::size_t inputSize, std::size_t outputSize) {
+  if (inputSize < srb_io_control::kSize) return kErrorInvalidParameter;
+  if (Get(buffer, srb_io_control::kHeaderLength) != srb_io_control::kSize) return kErrorRevisionMismatch;
+  const std::uint64_t total = srb_io_control::kSize + std::uint64_t{Get(buffer, srb_io_control::kLength)};
+  if (total > std::max(inputSize, outputSize)) return kErrorInsufficientBuffer;
+  return 0;
+}
+
+}  // namespace
+
+Adapter::Adapter(AdapterDescription description) : description_(std::move(description)) {
+  if (description_.csmi) csmi_ = std::make_unique<CsmiController>(*description_.csmi);
+}
+
+std::string_view Adapter::PacketName(std::uint32_t controlCode, std::span<const std::uint8_t> buffer) const {
+  return controlCode == kIoctlScsiMiniport ? CsmiController::PacketName(buffer) : std::string_view();
+}
+
+IoResult Adapter::Control(std::uint32_t controlCode, std::span<std::uint8_t> buffer, std::size_t inputSize,
+                          std::size_t outputSize) {
+  if (controlCode != kIoctlScsiMiniport) return {.error = kErrorInvalidFunction};
+  if (const std::uint32_t error = CheckHeader(buffer, inputSize, outputSize); error != 0) return {.error = error};
+  if (csmi_ == nullptr || !CsmiController::Recognises(buffer)) return {.error = kErrorInvalidFunction};
+  const std::size_t size = srb_io_control::kSize + Get(buffer, srb_io_control::kLength);
+  csmi_->Answer(buffer.first(size));
+  return {.returned = size};
+}
+
+}  // namespace orvik::simulation

@@ -1,0 +1,27 @@
+#pragma once
+
+// The machine's time. It may run faster than a wall clock, so that a check of hours passes in seconds.
+
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+
+namespace orvik::simulation {
+
+/// Monotonic; starts at 0 with the machine. May be used from several threads.
+class Clock {
+ public:
+  /// `speed`: machine milliseconds per millisecond of real time.
+  explicit Clock(double speed) : speed_(speed) {}
+
+  std::uint64_t Milliseconds() const;
+  /// Lets `milliseconds` of machine time pass at once.
+  void Advance(std::uint64_t milliseconds) { advanced_ += milliseconds; }
+
+ private:
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+  double speed_;
+  std::atomic<std::uint64_t> advanced_ = 0;
+};
+
+}  // namespace orvik::simulation

@@ -1,0 +1,33 @@
+#pragma once
+
+// A drive of any kind, as its controller holds it.
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <variant>
+
+#include "simulation/drives/ata/ata_drive.h"
+#include "simulation/drives/drive_descriptions.h"
+#include "simulation/drives/nvme/nvme_drive.h"
+#include "simulation/drives/scsi/scsi_drive.h"
+
+namespace orvik::simulation {
+
+using Drive = std::variant<std::shared_ptr<AtaDrive>, std::shared_ptr<ScsiDrive>, std::shared_ptr<NvmeDrive>>;
+
+Drive MakeDrive(const DriveDescription& description);
+
+/// What a controller notes about a drive when it finds it.
+struct DriveIdentity {
+  std::string model{};
+  std::string firmware{};
+  std::string serial{};
+  std::uint64_t sectors{};
+  std::uint32_t sectorSize{};
+};
+
+DriveIdentity IdentityOf(const Drive& drive);
+
+}  // namespace orvik::simulation

@@ -1,0 +1,41 @@
+#pragma once
+
+// What can be made to go wrong with a call into the machine.
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orvik::simulation {
+
+/// Bytes that take the place of those at `offset` of a packet that comes back (its header included).
+struct BytePatch {
+  std::size_t offset{};
+  std::vector<std::uint8_t> bytes{};
+};
+
+/// What happens to one call. Everything but `error` is for packets only.
+struct FaultEffects {
+  /// The call fails with this Windows error code and changes nothing.
+  std::optional<std::uint32_t> error{};
+  /// The packet comes back unexecuted with this ReturnCode.
+  std::optional<std::uint32_t> returnCode{};
+  /// What follows the packet's header is replaced by bytes that depend on this seed only.
+  std::optional<std::uint32_t> garbleSeed{};
+  std::vector<BytePatch> patches{};
+  /// Only this many bytes come back; the rest stays as it was sent.
+  std::optional<std::size_t> truncateTo{};
+};
+
+/// `operation` is a Windows function ("DeviceIoControl"), a packet ("CC_CSMI_SAS_GET_PHY_INFO") or "*" for every
+/// call outside that can fail. `call` is the number of the call that is hit, counted from 1 since the rule was added;
+/// without it every call is.
+struct FaultRule {
+  std::string operation{};
+  std::optional<std::uint64_t> call{};
+  FaultEffects effects{};
+};
+
+}  // namespace orvik::simulation

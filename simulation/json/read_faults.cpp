@@ -1,0 +1,61 @@
+#include <algorithm>
+
+#include "simulation/csmi/csmi_controller.h"
+#include "simulation/faults/fault_book.h"
+#include "simulation/json/object_reader.h"
+#include "simulation/json/readers.h"
+
+namespace orvik::simulation {
+
+namespace {
+
+// Functions that can be made to fail by name but that "*" leaves alone.
+constexpr std::array<std::string_view, 2> kByNameOnly = {"LoadLibraryW", "SetThreadAffinityMask"};
+
+bool CarriesPackets(std::string_view operation) {
+  return operation == "DeviceIoControl" || CsmiController::HasPacket(operation);
+}
+
+bool IsKnown(std::string_view operation) {
+  return operation == kEveryOutsideCall || IsOutsideCall(operation) || CarriesPackets(operation) ||
+         std::ranges::find(kByNameOnly, operation) != kByNameOnly.end();
+}
+
+BytePatch ReadPatch(const Node& node) {
+  BytePatch patch;
+  ObjectReader object(node);
+  object.Required("offset", "a whole number").Read(patch.offset);
+  object.Required("bytes", "a text of pairs of hexadecimal digits").ReadBytes(patch.bytes);
+  object.End();
+  return patch;
+}
+
+bool HasEffect(const FaultEffects& effects) {
+  return effects.error || effects.returnCode || effects.garbleSeed || effects.truncateTo || !effects.patches.empty();
+}
+
+}  // namespace
+
+FaultRule ReadFault(const Node& node) {
+  FaultRule fault;
+  FaultEffects& effects = fault.effects;
+  ObjectReader object(node);
+  const Node operation = object.Required("operation", "a text");
+  operation.Read(fault.operation);
+  if (!fault.operation.empty() && !IsKnown(fault.operation)) {
+    operation.Reject("\"*\", a Windows function or a packet that can be made to fail");
+  }
+  object.Optional("call").Read(fault.call, std::uint64_t{1}, std::numeric_limits<std::uint64_t>::max());
+  object.Optional("error").Read(effects.error);
+  if (CarriesPackets(fault.operation)) {
+    object.Optional("returnCode").Read(effects.returnCode);
+    object.Optional("garble").Read(effects.garbleSeed);
+    object.Optional("patch").ForEach([&](const Node& each) { effects.patches.push_back(ReadPatch(each)); });
+    object.Optional("truncate").Read(effects.truncateTo);
+  }
+  object.End();
+  if (!HasEffect(effects)) node.Reject("an effect such as \"error\"", "none");
+  return fault;
+}
+
+}  // namespace orvik::simulation

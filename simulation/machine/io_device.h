@@ -1,0 +1,34 @@
+#pragma once
+
+// What a file of the simulated machine leads to: a device that takes I/O control requests.
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace orvik::simulation {
+
+/// Windows error code (0: success) and the count of bytes that come back.
+struct IoResult {
+  std::uint32_t error{};
+  std::size_t returned{};
+};
+
+/// May be used from several threads.
+class IoDevice {
+ public:
+  IoDevice() = default;
+  IoDevice(const IoDevice&) = delete;
+  IoDevice& operator=(const IoDevice&) = delete;
+  virtual ~IoDevice() = default;
+
+  /// The name under which a fault rule knows the packet in `buffer`; empty when it has none.
+  virtual std::string_view PacketName(std::uint32_t controlCode, std::span<const std::uint8_t> buffer) const = 0;
+  /// Executes a request in place. `buffer` holds the request in its first `inputSize` bytes and takes up to
+  /// `outputSize` bytes of answer.
+  virtual IoResult Control(std::uint32_t controlCode, std::span<std::uint8_t> buffer, std::size_t inputSize,
+                           std::size_t outputSize) = 0;
+};
+
+}  // namespace orvik::simulation

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdint>
+
+namespace orvik::simulation {
+
+// Windows error codes that the devices of the machine answer with.
+inline constexpr std::uint32_t kErrorInvalidFunction = 1;
+inline constexpr std::uint32_t kErrorInvalidParameter = 87;
+inline constexpr std::uint32_t kErrorInsufficientBuffer = 122;
+inline constexpr std::uint32_t kErrorRevisionMismatch = 1306;
+
+}  // namespace orvik::simulation

@@ -1,0 +1,54 @@
+#pragma once
+
+// The simulated machine: one model behind every front door (the Windows API, vendor libraries, tests).
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "simulation/adapters/adapter.h"
+#include "simulation/clock/clock.h"
+#include "simulation/faults/fault_book.h"
+#include "simulation/ledger/ledger.h"
+#include "simulation/machine/io_device.h"
+#include "simulation/machine/machine_description.h"
+#include "simulation/registry/registry.h"
+
+namespace orvik::simulation {
+
+/// May be used from several threads.
+class Machine {
+ public:
+  explicit Machine(const MachineDescription& description = {});
+  Machine(const Machine&) = delete;
+  Machine& operator=(const Machine&) = delete;
+  ~Machine() = default;
+
+  const std::string& Name() const { return name_; }
+  const std::vector<std::shared_ptr<Adapter>>& Adapters() const { return adapters_; }
+  simulation::Registry& Registry() { return registry_; }
+  FaultBook& Faults() { return faults_; }
+  simulation::Ledger& Ledger() { return ledger_; }
+  simulation::Clock& Clock() { return clock_; }
+
+  /// The device that a file name leads to, letters of either case; null when it leads nowhere.
+  std::shared_ptr<IoDevice> Find(std::string_view fileName) const;
+  /// Sends a request to `device` as `IoDevice::Control` does, as one outside call that the fault book may hit.
+  IoResult Control(IoDevice& device, std::uint32_t controlCode, std::span<std::uint8_t> buffer, std::size_t inputSize,
+                   std::size_t outputSize);
+
+ private:
+  void RegisterDriver(const AdapterDescription& adapter);
+
+  std::string name_;
+  std::vector<std::shared_ptr<Adapter>> adapters_;
+  simulation::Registry registry_;
+  FaultBook faults_;
+  simulation::Ledger ledger_;
+  simulation::Clock clock_;
+};
+
+}  // namespace orvik::simulation

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "simulation/adapters/adapter_description.h"
+#include "simulation/faults/fault.h"
+#include "simulation/registry/registry.h"
+
+namespace orvik::simulation {
+
+/// Everything that a machine is made from; the adapters' registry values need not be repeated in `registry`.
+struct MachineDescription {
+  std::string name{};
+  /// Machine time per real time.
+  double speed = 1;
+  std::vector<AdapterDescription> adapters{};
+  std::vector<RegistryValue> registry{};
+  std::vector<FaultRule> faults{};
+};
+
+}  // namespace orvik::simulation
