@@ -1,0 +1,48 @@
+#include "utils/dispatcher/thread_pool.h"
+
+#include <memory>
+#include <system_error>
+#include <utility>
+
+#include <windows.h>
+
+ThreadPool::~ThreadPool() {
+  Stop();
+}
+
+void ThreadPool::Start(std::size_t workerCount) {
+  workers_.reserve(workerCount);
+  try {
+    for (std::size_t i = 0; i < workerCount; ++i) workers_.emplace_back(&ThreadPool::Work, this);
+  } catch (const std::system_error&) {
+    Stop();
+    throw std::system_error(std::make_error_code(std::errc::resource_unavailable_try_again));
+  }
+}
+
+std::future<void> ThreadPool::Submit(std::function<void()> function) {
+  std::packaged_task<void()> task(std::move(function));
+  auto result = task.get_future();
+  queue_.Push(std::make_unique<orvik::core::Task<std::packaged_task<void()>>>(std::move(task)));
+  return result;
+}
+
+void ThreadPool::Stop() {
+  if (stopping_.exchange(true)) return;
+  queue_.Invalidate();
+  for (auto& worker : workers_) {
+    if (worker.joinable()) worker.join();
+  }
+}
+
+void ThreadPool::Work() {
+  // The turn is the mask value itself, not a bit number.
+  SetThreadAffinityMask(GetCurrentThread(), startCounter_++ % affinityModulus_ + 1);
+  while (!stopping_ && queue_.IsValid()) {
+    try {
+      queue_.Pop()->Execute();
+    } catch (
+        ...) {  // NOLINT(bugprone-empty-catch): a task's failure is its owner's; "Invalidated queue!" ends the loop
+    }
+  }
+}
