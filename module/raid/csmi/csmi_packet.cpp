@@ -1,0 +1,156 @@
+#include "module/raid/csmi/csmi_packet.h"
+
+#include <algorithm>
+
+#include <winioctl.h>
+// Needs what comes before it.
+#include <ntddscsi.h>
+
+namespace orvik::module::raid {
+
+namespace {
+
+using storage::Direction;
+using utils::ByteView;
+using utils::MutableByteView;
+
+constexpr std::string_view kSignatureAll = "CSMIALL";
+constexpr std::string_view kSignatureSas = "CSMISAS";
+constexpr std::string_view kSignatureArray = "CSMIARY";
+
+constexpr std::uint32_t kMaximumDrivesPerSet = 255;
+
+std::vector<ByteView> Entries(ByteView view, utils::BlockArray array, std::size_t count) {
+  std::vector<ByteView> entries;
+  for (std::size_t i = 0; i < std::min(count, view.Count(array)); ++i) entries.push_back(view.Sub(array.At(i)));
+  return entries;
+}
+
+void PutAddress(MutableByteView packet, ByteView phyEntry) {
+  packet.Put(csmi::pass_through_address::kPhyIdentifier, phyEntry.Get(csmi::phy::kPhyIdentifier));
+  packet.Put(csmi::pass_through_address::kPortIdentifier, phyEntry.Get(csmi::phy::kPortIdentifier));
+  packet.PutBytes(csmi::pass_through_address::kDestinationSasAddress,
+                  phyEntry.Sub(csmi::phy::kAttachedSasAddress).Bytes());
+}
+
+std::uint32_t DirectionFlag(Direction direction) {
+  switch (direction) {
+    case Direction::kIn: return csmi::pass_through::kRead;
+    case Direction::kOut: return csmi::pass_through::kWrite;
+    case Direction::kNone: break;
+  }
+  return csmi::pass_through::kUnspecified;
+}
+
+void PutDataOut(MutableByteView packet, std::size_t offset, Direction direction, const std::uint8_t* data,
+                std::uint64_t length) {
+  if (direction == Direction::kOut && data != nullptr) packet.PutBytes({offset, length}, {data, length});
+}
+
+constexpr std::uint8_t Low(std::uint16_t value) {
+  return static_cast<std::uint8_t>(value & 0xFF);
+}
+constexpr std::uint8_t High(std::uint16_t value) {
+  return static_cast<std::uint8_t>(value >> 8);
+}
+
+void PutCommandFis(MutableByteView fis, const storage::AtaCmd& command) {
+  fis.Put(csmi::command_fis::kType, csmi::command_fis::kHostToDevice);
+  fis.Put(csmi::command_fis::kFlags, csmi::command_fis::kIsCommand);
+  fis.Put(csmi::command_fis::kCommand, command.command);
+  fis.Put(csmi::command_fis::kFeatures, Low(command.features));
+  fis.Put(csmi::command_fis::kLbaLow, Low(command.lbaLow));
+  fis.Put(csmi::command_fis::kLbaMid, Low(command.lbaMid));
+  fis.Put(csmi::command_fis::kLbaHigh, Low(command.lbaHigh));
+  fis.Put(csmi::command_fis::kDevice, command.device);
+  fis.Put(csmi::command_fis::kLbaLowExp, High(command.lbaLow));
+  fis.Put(csmi::command_fis::kLbaMidExp, High(command.lbaMid));
+  fis.Put(csmi::command_fis::kLbaHighExp, High(command.lbaHigh));
+  fis.Put(csmi::command_fis::kFeaturesExp, High(command.features));
+  fis.Put(csmi::command_fis::kSectorCount, Low(command.sectorCount));
+  fis.Put(csmi::command_fis::kSectorCountExp, High(command.sectorCount));
+}
+
+}  // namespace
+
+void CsmiPacket::SetSignature(std::string_view signature) {
+  Writer().PutBytes(csmi::header::kSignature, utils::BytesOf(signature));
+}
+
+void CsmiPacket::Build(std::span<std::uint8_t> buffer, std::string_view signature, std::uint32_t controlCode) {
+  bytes_ = buffer;
+  SetHeaderLength(csmi::header::kSize);
+  SetLength(static_cast<std::uint32_t>(buffer.size()) - csmi::header::kSize);
+  SetControlCode(controlCode);
+  SetTimeout(csmi::kTimeoutSeconds);
+  SetSignature(signature);
+}
+
+ControllerConfigurationPacket::ControllerConfigurationPacket()
+    : FixedCsmiPacket(kSignatureAll, csmi::controller_configuration::kControlCode) {}
+
+ControllerStatusPacket::ControllerStatusPacket()
+    : FixedCsmiPacket(kSignatureAll, csmi::controller_status::kControlCode) {}
+
+PhyInformationPacket::PhyInformationPacket() : FixedCsmiPacket(kSignatureSas, csmi::phy_information::kControlCode) {}
+
+std::vector<ByteView> PhyInformationPacket::Phys() const {
+  return Entries(View(), csmi::phy_information::kPhys, View().Get(csmi::phy_information::kNumberOfPhys));
+}
+
+RaidInformationPacket::RaidInformationPacket()
+    : FixedCsmiPacket(kSignatureArray, csmi::raid_information::kControlCode) {}
+
+RaidConfigurationPacket::RaidConfigurationPacket(std::uint32_t setIndex, std::uint32_t drivesPerSet)
+    : SizedCsmiPacket(csmi::raid_configuration::kDrives.At(std::min(drivesPerSet, kMaximumDrivesPerSet)).offset,
+                      kSignatureArray, csmi::raid_configuration::kControlCode) {
+  Writer().Put(csmi::raid_configuration::kRaidSetIndex, setIndex);
+}
+
+std::vector<ByteView> RaidConfigurationPacket::Drives() const {
+  return Entries(View(), csmi::raid_configuration::kDrives, View().Get(csmi::raid_configuration::kDriveCount));
+}
+
+SspPassThroughPacket::SspPassThroughPacket(const storage::ScsiCmd& command, ByteView phyEntry)
+    : SizedCsmiPacket(csmi::ssp::kSizeWithoutData + command.length, kSignatureSas, csmi::ssp::kControlCode) {
+  PutAddress(Writer(), phyEntry);
+  const std::size_t cdbLength = std::min<std::size_t>(command.cdbLength, command.cdb.size());
+  Writer().Put(csmi::ssp::kCdbLength, static_cast<std::uint8_t>(cdbLength));
+  Writer().PutBytes(csmi::ssp::kCdb, std::span(command.cdb).first(cdbLength));
+  Writer().Put(csmi::ssp::kFlags, DirectionFlag(command.direction));
+  Writer().Put(csmi::ssp::kDataLength, static_cast<std::uint32_t>(command.length));
+  PutDataOut(Writer(), csmi::ssp::kData, command.direction, command.buffer, command.length);
+}
+
+ByteView SspPassThroughPacket::Data() const {
+  return View().Sub({csmi::ssp::kData, View().Size() - csmi::ssp::kSizeWithoutData});
+}
+
+StpPassThroughPacket::StpPassThroughPacket(const storage::AtaCmd& command, ByteView phyEntry)
+    : SizedCsmiPacket(csmi::stp::kSizeWithoutData + command.length, kSignatureSas, csmi::stp::kControlCode) {
+  PutAddress(Writer(), phyEntry);
+  PutCommandFis(Writer().Sub(csmi::stp::kCommandFis), command);
+  Writer().Put(csmi::stp::kFlags, csmi::pass_through::kPio | DirectionFlag(command.direction));
+  Writer().Put(csmi::stp::kDataLength, static_cast<std::uint32_t>(command.length));
+  PutDataOut(Writer(), csmi::stp::kData, command.direction, command.buffer, command.length);
+}
+
+ByteView StpPassThroughPacket::Data() const {
+  return View().Sub({csmi::stp::kData, View().Size() - csmi::stp::kSizeWithoutData});
+}
+
+storage::Status SendCsmiPacket(HANDLE port, CsmiPacket& packet) {
+  const DWORD size = packet.HeaderLength() + packet.Length();
+  DWORD returned = 0;
+  const BOOL sent =
+      DeviceIoControl(port, IOCTL_SCSI_MINIPORT, packet.Buffer(), size, packet.Buffer(), size, &returned, nullptr);
+  return sent ? storage::status::kSuccess : storage::status::kIoctlFailed;
+}
+
+storage::Status ExchangeCsmiPacket(HANDLE port, CsmiPacket& packet) {
+  const storage::Status sent = SendCsmiPacket(port, packet);
+  if (sent != storage::status::kSuccess) return sent;
+  return packet.ReturnCode() == 0 ? storage::status::kSuccess : storage::status::kCsmiReturnCode;
+}
+
+}  // namespace orvik::module::raid

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "utils/bytes/byte_view.h"
+
+namespace orvik::module::storage {
+
+/// Identify data of 512 bytes (ACS-4, 7.13.6): not all zero, its checksum right where it carries one (byte 510 is
+/// A5h), and of an ATA device (bit 15 of word 0 clear).
+bool IsValidIdentifyData(utils::ByteView data);
+
+/// The text of `count` words from `first` on: each word holds two characters, the first in its high byte. Untrimmed.
+std::string DecodeIdentifyString(utils::ByteView data, std::size_t first, std::size_t count);
+
+/// Words 27 to 46: the model, 40 characters, untrimmed.
+std::string IdentifyModel(utils::ByteView data);
+
+/// The maker's name as far as a model tells it: its first word with a capital letter, or for a model of one word what
+/// its prefix stands for, or "Generic Vendor".
+std::string VendorFromModel(const std::string& model);
+
+/// Sectors (28 or 48 bit) times logical sector size.
+std::uint64_t CapacityInBytes(utils::ByteView data);
+
+}  // namespace orvik::module::storage
