@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+
+#include "host/run/run.h"
+#include "host/terminal/palette.h"
+
+namespace orvik::host {
+
+/// The runs for programs, in the order of the plan.
+QJsonArray RunsJson(const RunList& runs);
+
+/// How many runs ended in which way.
+QJsonObject SummaryJson(const RunList& runs);
+
+/// The runs for people, device by device, and a summary line.
+QString RunsText(const RunList& runs, const Palette& palette);
+
+}  // namespace orvik::host

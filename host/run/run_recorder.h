@@ -1,0 +1,28 @@
+#pragma once
+
+#include <atomic>
+#include <optional>
+#include <vector>
+
+#include "core/test_run.h"
+
+namespace orvik::host {
+
+/// Keeps what a run reports. The progress may be read from any thread at any time, the messages once the run has
+/// been handed back.
+class RunRecorder final : public core::RunReporter {
+ public:
+  void SetProgress(std::uint8_t percent) override;
+  void AddMessage(const core::TestMessage& message) override;
+  void Ask(std::unique_ptr<core::InputInteraction>& question) override;
+
+  /// 0 to 100; nothing before the first report.
+  std::optional<int> Progress() const;
+  const std::vector<core::TestMessage>& Messages() const { return messages_; }
+
+ private:
+  std::atomic<int> progress_{-1};
+  std::vector<core::TestMessage> messages_;
+};
+
+}  // namespace orvik::host

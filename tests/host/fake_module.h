@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+
+#include "core/dispatcher.h"
+#include "core/module.h"
+
+// A small module to load into the host: two devices, tests for every way a run can end, and a log of the order in
+// which the host does things. The environment chooses among its misbehaviours.
+namespace orvik::tests {
+
+/// Tests of the fake module, by id.
+enum FakeTest : core::TestId {
+  kPass = 1,
+  kWarn,
+  kFail,
+  kUntilAborted,  ///< ends only when aborted
+  kThrow,
+  kExclusive,
+  kMeet,  ///< passes only if a run on the other device is under way at the same time
+  kInvalid,
+  kFirstDeviceOnly,
+  kUnknownResult,
+  kUnmade = 99,  ///< listed but never made
+};
+
+/// Ids of the tests to list, comma separated.
+constexpr char kListEnvironment[] = "FAKE_TESTS";
+/// Space-separated words: "empty", "scan-throws", "slots-fail", "no-instance", "swallow" (tasks), "refuse" (runs),
+/// "stubborn" (about aborting).
+constexpr char kMoodEnvironment[] = "FAKE_MOOD";
+/// File to which a line is added for each step of the host.
+constexpr char kLogEnvironment[] = "FAKE_LOG";
+
+bool IsInMood(const char* word);
+void Log(const std::string& line);
+
+std::unique_ptr<core::Test> MakeFakeTest(core::TestId id);
+std::shared_ptr<core::DeviceScanner> MakeFakeScanner();
+std::shared_ptr<core::DiagnosticDispatcher> MakeFakeDispatcher();
+
+}  // namespace orvik::tests

@@ -1,0 +1,14 @@
+// A simulation library to load into the host. It is no module, so it also serves as a library that is none.
+
+#include <QtCore/qglobal.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <string_view>
+
+extern "C" Q_DECL_EXPORT const char* OrvikSimulationOpen(const char* utf8Path) {
+  if (const char* const log = std::getenv("FAKE_LOG"))
+    std::ofstream(log, std::ios::app) << "opened " << utf8Path << '\n';
+  const bool isGood = std::string_view(utf8Path).ends_with("good.json");
+  return isGood ? nullptr : "broken.json: /controllers/0: expected an object,\nfound a number";
+}

@@ -1,0 +1,83 @@
+// Stopping the program with signals, which other programs can send only on POSIX systems.
+
+#include <gtest/gtest.h>
+
+#include <QtGlobal>
+
+#ifdef Q_OS_UNIX
+
+#include <QJsonArray>
+#include <csignal>
+
+#include "tests/host/host_process.h"
+
+namespace orvik::tests {
+namespace {
+
+constexpr int kPatienceMilliseconds = 60000;
+
+class InterruptTest : public testing::Test {
+ protected:
+  InterruptTest() {
+    host_.InstallModule();
+    host_.SetEnvironment("FAKE_TESTS", "4,1");
+  }
+
+  // Starts runs that would never end and waits until they are under way on both devices.
+  void Start() {
+    process_.setChildProcessModifier([] { static_cast<void>(std::signal(SIGINT, SIG_DFL)); });
+    host_.Start(process_, {"test", "--json"});
+    WaitForBoth("waiting\n");
+  }
+
+  void WaitForBoth(const char* line) {
+    process_.setReadChannel(QProcess::StandardError);
+    while (seen_.count(line) < 2 && process_.waitForReadyRead(kPatienceMilliseconds)) {
+      seen_ += process_.readAllStandardError();
+    }
+    ASSERT_EQ(seen_.count(line), 2);
+  }
+
+  void Send(int signal) const { ASSERT_EQ(kill(static_cast<pid_t>(process_.processId()), signal), 0); }
+
+  HostProcess host_;
+  QProcess process_;
+  QByteArray seen_;
+};
+
+TEST_F(InterruptTest, RunsEndAsAbortedAndTheOutputIsComplete) {
+  Start();
+  Send(SIGINT);
+  ASSERT_TRUE(process_.waitForFinished(kPatienceMilliseconds));
+  EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit);
+  EXPECT_EQ(process_.exitCode(), 3);
+  const QJsonObject document = CheckedDocument(process_.readAllStandardOutput());
+  const QJsonArray runs = document["runs"].toArray();
+  ASSERT_EQ(runs.size(), 4) << "runs that had not begun belong to the output";
+  for (const auto& run : runs) EXPECT_EQ(run.toObject()["result"].toObject()["word"].toString(), "aborted");
+  EXPECT_EQ(document["errors"].toArray().size(), 1);
+  EXPECT_EQ(host_.LogLines().filter("run 1").size(), 0) << "nothing starts after the interruption";
+  EXPECT_EQ(host_.LogLines().filter("finished 4").size(), 2);
+}
+
+TEST_F(InterruptTest, TerminationRequestStopsItToo) {
+  Start();
+  Send(SIGTERM);
+  ASSERT_TRUE(process_.waitForFinished(kPatienceMilliseconds));
+  EXPECT_EQ(process_.exitCode(), 3);
+}
+
+TEST_F(InterruptTest, SecondOneEndsAProgramThatHangs) {
+  host_.SetEnvironment("FAKE_MOOD", "stubborn");
+  Start();
+  Send(SIGINT);
+  WaitForBoth("noticed\n");
+  Send(SIGINT);
+  ASSERT_TRUE(process_.waitForFinished(kPatienceMilliseconds));
+  EXPECT_EQ(process_.exitStatus(), QProcess::CrashExit);
+}
+
+}  // namespace
+}  // namespace orvik::tests
+
+#endif
