@@ -1,0 +1,62 @@
+#!/usr/bin/env bash
+# The rules that a compiler does not check: formatting, clang-tidy, who includes whom, calls that have one home, and
+# the names that the libraries export. scripts/lint.sh [--quick] (leaves clang-tidy out)
+set -uo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/packages.sh build lint
+failed=0
+rule() { printf -- '-- %s\n' "$1"; }
+broken() { printf '%s\n' "$1"; failed=1; }
+
+mapfile -t sources < <(git ls-files --cached --others --exclude-standard '*.h' '*.cpp')
+
+rule "formatting"
+clang-format --dry-run -Werror "${sources[@]}" || failed=1
+
+rule "who includes whom"
+cmake -DROOT="$PWD" -P cmake/IncludeRules.cmake || failed=1
+
+# only_in PATTERN WHAT HOME...: outside their homes, product code must not have lines that match.
+only_in() {
+  local pattern=$1 what=$2
+  shift 2
+  local homes=()
+  for home in "$@"; do homes+=(":(exclude)$home"); done
+  local hits
+  hits=$(git grep --untracked -nE "$pattern" -- core utils module platform simulation host "${homes[@]}")
+  [ -z "$hits" ] || broken "$what"$'\n'"$hits"
+}
+
+rule "calls that have one home"
+only_in '\b(memcpy|memmove|memset|strcpy|sprintf)\b' \
+  "raw copies belong behind the bounded views" utils/bytes simulation/bytes
+only_in 'reinterpret_cast|__attribute__\(\(packed|#pragma pack' \
+  "casts of buffers belong into the headers for bytes" utils/bytes simulation/bytes \
+  utils/windows/unique_handle.h platform/hostkit/libraries.cpp platform/windows
+only_in '\b(CloseHandle|SetupDiDestroyDeviceInfoList)\(' \
+  "handles belong to owners" utils/windows/unique_handle.h platform/windows
+only_in '^ *# *(ifdef|ifndef|if) ' \
+  "the sources are the same on every platform" platform host
+
+rule "exported names"
+scripts/build.sh dev || exit 1
+# exports LIBRARY NAME...
+exports() {
+  local library=$1 found
+  shift
+  found=$(nm -D --defined-only "build/dev/bin/$library" | awk '{print $3}' | sed 's/@.*//' | sort | xargs)
+  [ "$found" = "$(printf '%s\n' "$@" | sort | xargs)" ] || broken "$library exports: $found"
+}
+exports ovk_module_raid.so CreateModuleInstance DestroyModuleInstance
+exports hostkit.so get_filesystem get_module get_number_handler get_string_handler get_temporary_path get_timer
+
+if [ "${1:-}" != --quick ]; then
+  rule "clang-tidy"
+  # Only what the build compiles here: sources of other platforms have no compile command.
+  run-clang-tidy -quiet -p build/dev "$PWD/(core|utils|module|platform|simulation|host|tests)/.*" \
+    > build/tidy.log 2>/dev/null || { grep -E 'warning:|error:|note:' -A 3 build/tidy.log; failed=1; }
+fi
+
+[ "$failed" = 0 ] && echo "all rules hold"
+exit "$failed"
