@@ -41,6 +41,8 @@ QString DisplayText(std::string_view text) {
 
   QString shown;
   for (const char32_t character : raw.mid(begin, end - begin).toUcs4()) {
+    // Blanks that pad one part of a text stand in the middle of the whole.
+    if (character == U' ' && shown.endsWith(QLatin1Char(' '))) continue;
     shown += IsUnsafe(character) ? Spelt(character) : QString::fromUcs4(&character, 1);
   }
   return shown;

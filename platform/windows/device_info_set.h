@@ -2,8 +2,8 @@
 
 // A device information set: the devices, and the interfaces of them, that a query of the setup API selected.
 
-#include <setupapi.h>
 #include <windows.h>
+#include <setupapi.h>
 
 #include <memory>
 #include <optional>

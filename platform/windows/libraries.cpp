@@ -1,20 +1,17 @@
 // Dynamic libraries, over the platform's own loader. A module handle is the loader's record of the library.
 
+#include <windows.h>
 #include <dlfcn.h>
 #include <link.h>
 #include <unistd.h>
-#include <windows.h>
 
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <map>
-#include <memory>
-#include <mutex>
 #include <string>
-#include <vector>
 
 #include "platform/windows/failure.h"
+#include "platform/windows/library_references.h"
 #include "platform/windows/wide_text.h"
 #include "simulation/machine/current_machine.h"
 
@@ -23,36 +20,10 @@ namespace simulation = orvik::simulation;
 
 namespace {
 
-// The references that callers hold, each with the machine that counts it.
-struct References {
-  std::mutex mutex;
-  std::map<HMODULE, std::vector<std::shared_ptr<simulation::Machine>>> held;
-};
-
-References& TheReferences() {
-  static References& references = *new References;
-  return references;
-}
-
 HMODULE Keep(void* loaded) {
   const auto library = std::bit_cast<HMODULE>(loaded);
-  auto machine = simulation::CurrentMachine();
-  machine->Ledger().Take(simulation::Resource::Library);
-  const std::scoped_lock lock(TheReferences().mutex);
-  TheReferences().held[library].push_back(std::move(machine));
+  windows::KeepLibrary(library);
   return library;
-}
-
-// The machine that counted the reference; null when there is none to give back.
-std::shared_ptr<simulation::Machine> Release(HMODULE library) {
-  const std::scoped_lock lock(TheReferences().mutex);
-  auto& held = TheReferences().held;
-  const auto found = held.find(library);
-  if (found == held.end()) return nullptr;
-  auto machine = std::move(found->second.back());
-  found->second.pop_back();
-  if (found->second.empty()) held.erase(found);
-  return machine;
 }
 
 // The loader's record of the library that holds `address`.
@@ -99,7 +70,7 @@ FARPROC WINAPI GetProcAddress(HMODULE library, LPCSTR name) {
 }
 
 BOOL WINAPI FreeLibrary(HMODULE library) {
-  const auto machine = Release(library);
+  const auto machine = windows::ReleaseLibrary(library);
   if (machine == nullptr) {
     simulation::CurrentMachine()->Ledger().InvalidRelease(simulation::Resource::Library);
     return windows::Fail(ERROR_MOD_NOT_FOUND);

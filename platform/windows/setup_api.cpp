@@ -1,7 +1,7 @@
 // The setup API: device information sets over the adapters of the machine.
 
-#include <setupapi.h>
 #include <windows.h>
+#include <setupapi.h>
 
 #include <algorithm>
 #include <cstddef>

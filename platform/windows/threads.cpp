@@ -1,9 +1,9 @@
 // Threads and processors, over POSIX threads.
 
+#include <windows.h>
 #include <pthread.h>
 #include <sched.h>
 #include <unistd.h>
-#include <windows.h>
 
 #include <bit>
 

@@ -3,8 +3,8 @@
 
 #include <windows.h>
 
-#include <setupapi.h>
 #include <winioctl.h>
+#include <setupapi.h>
 // Needs what comes before it.
 #include <ntddscsi.h>
 

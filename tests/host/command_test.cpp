@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QJsonArray>
 
+#include "tests/host/checked_document.h"
 #include "tests/host/host_process.h"
 
 namespace orvik::tests {
@@ -36,7 +37,7 @@ TEST_F(CommandTest, ScanShowsWhatTheControllerTells) {
   EXPECT_EQ(finished.err, "");
   for (const char* const expected :
        {"[0] First\xEF\xBF\xBD( (id A77F)", "Serial number: \\x07 77\n",
-        "0: logical drive 7, RAID 1, degraded, 9.01 PB, 2 members", "failed member: DISK B   - S2\xEF\xBF\xBD\n",
+        "0: logical drive 7, RAID 1, degraded, 9.01 PB, 2 members", "failed member: DISK B - S2\xEF\xBF\xBD\n",
         "1: NVMe, ACME DISK A, 1 kB, serial number S1\\x1b[31m", "2 RAID controllers\n"}) {
     EXPECT_TRUE(finished.out.contains(expected)) << expected << '\n' << finished.out.toStdString();
   }

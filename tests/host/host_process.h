@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QJsonObject>
 #include <QMap>
 #include <QProcess>
 #include <QString>
@@ -42,8 +41,5 @@ class HostProcess {
   QTemporaryDir folder_;
   QMap<QString, QString> environment_;
 };
-
-/// The one JSON document in `output`, held against the schema; a failed expectation and an empty object otherwise.
-QJsonObject CheckedDocument(const QByteArray& output);
 
 }  // namespace orvik::tests

@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <csignal>
 
+#include "tests/host/checked_document.h"
 #include "tests/host/host_process.h"
 
 namespace orvik::tests {

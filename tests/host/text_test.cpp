@@ -23,6 +23,7 @@ TEST(DisplayText, IsSafeToShow) {
       {"zero\xE2\x80\x8Bwidth", u"zero\\u{200b}width"},
       {"\xF0\x9F\x92\xBE", u"\U0001F4BE"},
       {"   ", u""},
+      {"DISK B   - S2  ", u"DISK B - S2"},
       {"100 %1 %n", u"100 %1 %n"},
   };
   for (const auto& each : cases) EXPECT_EQ(DisplayText(each.device), QString::fromUtf16(each.shown)) << each.device;

@@ -1,6 +1,6 @@
+#include <windows.h>
 #include <gtest/gtest.h>
 #include <ntddscsi.h>
-#include <windows.h>
 
 #include <array>
 #include <string>
@@ -47,7 +47,7 @@ class FileIo : public testing::Test {
 
 TEST_F(FileIo, OpensAnInterfaceByItsPathInAnyCase) {
   for (WCHAR& c : path) c = c >= 'a' && c <= 'z' ? static_cast<WCHAR>(c - 32) : c;
-  const HANDLE file = Open(path);
+  HANDLE file = Open(path);
   ASSERT_NE(file, INVALID_HANDLE_VALUE);
   EXPECT_EQ(machine->Ledger().Outstanding(simulation::Resource::FileHandle), 1U);
   EXPECT_TRUE(CloseHandle(file));
@@ -69,7 +69,7 @@ TEST_F(FileIo, RefusesWhatCannotBeOpened) {
 }
 
 TEST_F(FileIo, ReturnsOnlyWhatFitsTheOutputBuffer) {
-  const HANDLE file = Open(path);
+  HANDLE file = Open(path);
   auto packet = RaidInfo();
   DWORD returned = 0;
   ASSERT_TRUE(DeviceIoControl(file, IOCTL_SCSI_MINIPORT, packet.data(), 128, packet.data(), 128, &returned, nullptr));
@@ -87,7 +87,7 @@ TEST_F(FileIo, ReturnsOnlyWhatFitsTheOutputBuffer) {
 }
 
 TEST_F(FileIo, LeavesTheOutputAloneOnFailure) {
-  const HANDLE file = Open(path);
+  HANDLE file = Open(path);
   const auto request = RaidInfo();
   struct Row {
     const char* what;
@@ -118,7 +118,7 @@ TEST_F(FileIo, LeavesTheOutputAloneOnFailure) {
 
 // A host may open another machine while a device of the old one is still held.
 TEST_F(FileIo, KeepsItsMachineWhenAnotherIsInstalled) {
-  const HANDLE file = Open(path);
+  HANDLE file = Open(path);
   simulation::InstallMachine(std::make_shared<Machine>());
   auto packet = RaidInfo();
   DWORD returned = 0;
@@ -133,7 +133,7 @@ TEST_F(FileIo, ServesSeveralThreadsAtOnce) {
   constexpr int kRounds = 50;
   const auto work = [this] {
     for (int i = 0; i < kRounds; ++i) {
-      const HANDLE file = Open(path);
+      HANDLE file = Open(path);
       auto packet = RaidInfo();
       DWORD returned = 0;
       DeviceIoControl(file, IOCTL_SCSI_MINIPORT, packet.data(), 128, packet.data(), 128, &returned, nullptr);
@@ -143,6 +143,7 @@ TEST_F(FileIo, ServesSeveralThreadsAtOnce) {
     }
   };
   std::vector<std::thread> threads;
+  threads.reserve(kThreads);
   for (int i = 0; i < kThreads; ++i) threads.emplace_back(work);
   for (std::thread& thread : threads) thread.join();
   EXPECT_EQ(machine->Faults().CallsMade("*"), std::uint64_t{2} * kThreads * kRounds);

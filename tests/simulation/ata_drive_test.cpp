@@ -82,16 +82,5 @@ TEST(AtaDrive, AbortsACommandThatItDoesNotKnow) {
   EXPECT_EQ(completion->transferred, 0U);
 }
 
-TEST(AtaDrive, SaysNothingWhenSilent) {
-  AtaDrive drive({.sectors = 1, .silent = true});
-  EXPECT_FALSE(drive.Execute({.command = 0xEC}, {}));
-}
-
-TEST(AtaDrive, FillsNoMoreThanTheRoomGiven) {
-  AtaDrive drive({.sectors = 1});
-  std::vector<std::uint8_t> data(100);
-  EXPECT_EQ(drive.Execute({.command = 0xEC}, data)->transferred, 100U);
-}
-
 }  // namespace
 }  // namespace orvik::simulation

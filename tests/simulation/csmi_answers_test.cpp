@@ -67,14 +67,6 @@ TEST(CsmiController, ListsItsPhysWithWhatIsAttached) {
   }
 }
 
-TEST(CsmiController, GivesAPhyToEveryDriveButNvme) {
-  CsmiController controller({.drives = {kNvme, kSata, kSas}});
-  const Bytes reply = PhyInfo(controller);
-  EXPECT_EQ(reply[28], 2);
-  EXPECT_EQ(reply[32 + 39], 0x01);
-  EXPECT_EQ(reply[96 + 39], 0x08);
-}
-
 TEST(CsmiController, CountsItsRaidSets) {
   CsmiController small({.raidSets = {{}, {}}});
   Bytes reply = Answered(small, Packet("CSMIARY", 10, 128));
@@ -176,11 +168,6 @@ TEST(CsmiController, RefusesPacketsThatAreNotItsOwn) {
     PutLe(packet, 20, 4, 0);
     EXPECT_EQ(packet, sent);
   }
-}
-
-TEST(CsmiController, RefusesToBeMadeFromADriveThatIsNotThere) {
-  EXPECT_THROW(CsmiController({.phys = {{.drive = 0}}}), std::out_of_range);
-  EXPECT_THROW(CsmiController({.raidSets = {{.members = {{.drive = 0}}}}}), std::out_of_range);
 }
 
 }  // namespace

@@ -76,15 +76,6 @@ TEST_F(CsmiPassThrough, MovesNoDataWithoutADirection) {
   EXPECT_EQ(Bytes(reply.begin() + 164, reply.end()), Bytes(516));
 }
 
-TEST_F(CsmiPassThrough, ReachesAPhyByItsPortToo) {
-  Bytes request = StpRequest(phyInfo, 0, 0xEC, 512);
-  request[28] = 0xFF;
-  EXPECT_EQ(ReturnCode(Send(request)), 0U);
-  request = StpRequest(phyInfo, 0, 0xEC, 512);
-  request[29] = 0xFF;
-  EXPECT_EQ(ReturnCode(Send(request)), 0U);
-}
-
 TEST_F(CsmiPassThrough, TellsWhyADriveCannotBeReached) {
   struct Row {
     const char* what;

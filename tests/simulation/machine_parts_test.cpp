@@ -1,20 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "simulation/machine/current_machine.h"
-#include "simulation/text/fold_case.h"
 
 namespace orvik::simulation {
 namespace {
-
-TEST(Registry, KnowsNamesInAnyCase) {
-  Registry registry;
-  registry.Set({R"(SYSTEM\Key)", "Driver", "first"});
-  registry.Set({R"(system\KEY)", "driver", "second"});
-  EXPECT_EQ(registry.Find(R"(System\key)", "DRIVER"), "second");
-  EXPECT_EQ(registry.Find(R"(System\key)", ""), std::nullopt);
-  registry.Remove(R"(SYSTEM\KEY)", "DRIVER");
-  EXPECT_EQ(registry.Find(R"(SYSTEM\Key)", "Driver"), std::nullopt);
-}
 
 TEST(Machine, RegistersTheDriversOfItsAdapters) {
   AdapterDescription complete = PciRaidAdapter("2822", 0);
@@ -31,18 +20,6 @@ TEST(Machine, RegistersTheDriversOfItsAdapters) {
   EXPECT_EQ(machine.Registry().Find(root + "Enum\\" + bare.instanceId, "Driver"), "class\\0002");
   EXPECT_EQ(machine.Registry().Find(root + "Control\\Class\\class\\0002", "ProviderName"), std::nullopt);
   EXPECT_EQ(machine.Registry().Find(root + "Enum\\" + none.instanceId, "Driver"), std::nullopt);
-}
-
-TEST(Machine, FindsThePortOfAPresentAdapter) {
-  AdapterDescription present = PciRaidAdapter("282A", 0);
-  present.interfaces.push_back({.path = R"(\\?\Second)"});
-  AdapterDescription absent = PciRaidAdapter("282A", 1);
-  absent.present = false;
-  const Machine machine({.adapters = {present, absent}});
-  EXPECT_EQ(machine.Find(FoldCase(present.interfaces[0].path)), machine.Adapters()[0]);
-  EXPECT_EQ(machine.Find(R"(\\?\SECOND)"), machine.Adapters()[0]);
-  EXPECT_EQ(machine.Find(absent.interfaces[0].path), nullptr);
-  EXPECT_EQ(machine.Find(""), nullptr);
 }
 
 TEST(Ledger, CountsWhatIsOutAndWhatWasNeverOut) {

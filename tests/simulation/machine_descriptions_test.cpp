@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <string>
 
 #include "simulation/json/load_machine.h"
@@ -9,13 +13,9 @@
 namespace orvik::simulation {
 namespace {
 
+// Machine descriptions written down by a test, each loaded through a file of the test's own.
 class MachineDescriptions : public testing::Test {
  protected:
-  std::string path =
-      (std::filesystem::temp_directory_path() /
-       ("machine-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()) + ".json"))
-          .string();
-
   ~MachineDescriptions() override { std::filesystem::remove(path); }
 
   std::variant<std::shared_ptr<Machine>, std::string> Load(const std::string& text) {
@@ -37,6 +37,11 @@ class MachineDescriptions : public testing::Test {
     return Document(R"("adapters": [{"instanceId": "a"}, {"instanceId": "b", )" + rest + "}]");
   }
   static std::string Csmi(const std::string& rest) { return Adapter(R"("csmi": {)" + rest + "}"); }
+
+  std::string path =
+      (std::filesystem::temp_directory_path() /
+       (std::string("machine-") + testing::UnitTest::GetInstance()->current_test_info()->name() + ".json"))
+          .string();
 };
 
 TEST_F(MachineDescriptions, AreRefusedWithPlaceExpectationAndFinding) {
@@ -92,7 +97,7 @@ TEST_F(MachineDescriptions, AreRefusedWithPlaceExpectationAndFinding) {
       {Document(R"("faults": [{"operation": "*"}])"), R"(faults[0]: expected an effect such as "error", found none)"},
       {Document(R"("faults": [{"operation": "DeviceIoControl", "patch": [{"offset": 1, "bytes": "ABC"}]}])"),
        R"(faults[0].patch[0].bytes: expected a text of pairs of hexadecimal digits, found the text "ABC")"},
-      {"{\"format\": 1, \"name\": \"m\", \"speed\": \"two\\nlines\"}",
+      {Document(R"("speed": "two\nlines")"),
        R"(speed: expected a number from 0.001 to 1e+06, found the text "two lines")"},
   };
   for (const auto& [text, error] : rows) EXPECT_EQ(Error(text), error) << text;
@@ -153,6 +158,49 @@ TEST_F(MachineDescriptions, CarryEveryKeyIntoTheMachine) {
   const FaultEffects effects = machine.Faults().OnCall({"DeviceIoControl"});
   EXPECT_EQ(effects.truncateTo, 3U);
   EXPECT_EQ(effects.patches.at(0).bytes, (std::vector<std::uint8_t>{0x0A, 0xFF}));
+}
+
+// The keys that the schema offers for a part of the document; "" is the document itself.
+std::set<std::string> SchemaKeys(const QJsonObject& schema, const char* part) {
+  const QJsonObject object = *part == '\0' ? schema : schema["$defs"].toObject()[part].toObject();
+  std::set<std::string> keys;
+  for (const QString& key : object["properties"].toObject().keys()) keys.insert(key.toStdString());
+  return keys;
+}
+
+// The keys between quotation marks, but for the last: that is the one that was found.
+std::set<std::string> KeysOf(const std::string& error) {
+  std::set<std::string> keys;
+  std::size_t end = 0;
+  for (std::size_t start = error.find('"'); start != std::string::npos; start = error.find('"', end + 1)) {
+    end = error.find('"', start + 1);
+    keys.insert(error.substr(start + 1, end - start - 1));
+  }
+  EXPECT_EQ(keys.erase("?"), 1U) << error;
+  return keys;
+}
+
+// Editors check a document by the schema, the machine by its reader: both must know the same keys.
+TEST_F(MachineDescriptions, HaveTheKeysOfTheirSchema) {
+  QFile file(ORVIK_MACHINES_DIR "/machine.schema.json");
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QJsonObject schema = QJsonDocument::fromJson(file.readAll()).object();
+  const std::string sata = R"({"kind": "SATA", "model": "m", "serial": "s", "sectors": 1, "?": 0})";
+  const std::string sas = R"({"kind": "SAS", "vendor": "v", "product": "p", "serial": "s", "sectors": 1, "?": 0})";
+  const std::string nvme = R"({"kind": "NVMe", "model": "m", "serial": "s", "sectors": 1, "?": 0})";
+  const std::pair<const char*, std::string> rows[] = {
+      {"", Document(R"("?": 0)")},
+      {"adapter", Adapter(R"("?": 0)")},
+      {"csmiController", Csmi(R"("?": 0)")},
+      {"sataDrive", Csmi(R"("drives": [)" + sata + "]")},
+      {"sasDrive", Csmi(R"("drives": [)" + sas + "]")},
+      {"nvmeDrive", Csmi(R"("drives": [)" + nvme + "]")},
+      {"phy", Csmi(R"("phys": [{"?": 0}])")},
+      {"raidSet", Csmi(R"("raidSets": [{"type": 0, "capacityMiB": 0, "members": [], "?": 0}])")},
+      {"registryValue", Document(R"("registry": [{"key": "", "name": "", "text": "", "?": 0}])")},
+      {"fault", Document(R"("faults": [{"operation": "DeviceIoControl", "?": 0}])")},
+  };
+  for (const auto& [part, text] : rows) EXPECT_EQ(SchemaKeys(schema, part), KeysOf(Error(text))) << part;
 }
 
 }  // namespace

@@ -1,0 +1,55 @@
+// Where the platform is Windows itself: what the system does best is left to it, and the machine's books are kept.
+
+#include <windows.h>
+
+#include <bit>
+
+#include "platform/windows/failure.h"
+#include "platform/windows/library_references.h"
+#include "simulation/machine/current_machine.h"
+
+namespace windows = orvik::platform::windows;
+namespace simulation = orvik::simulation;
+
+namespace {
+
+/// The system's own function behind one of those below.
+template <typename Function>
+Function* SystemFunction(const char* name, Function* /*type*/) {
+  return std::bit_cast<Function*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), name));
+}
+
+}  // namespace
+
+DWORD_PTR WINAPI SetThreadAffinityMask(HANDLE thread, DWORD_PTR mask) {
+  const auto machine = simulation::CurrentMachine();
+  machine->Ledger().RecordAffinityRequest(mask);
+  if (const auto error = windows::InjectedError(*machine, "SetThreadAffinityMask")) {
+    SetLastError(*error);
+    return 0;
+  }
+  static auto* const system = SystemFunction("SetThreadAffinityMask", &SetThreadAffinityMask);
+  return system(thread, mask);
+}
+
+HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
+  if (const auto error = windows::InjectedError(*simulation::CurrentMachine(), "LoadLibraryW")) {
+    SetLastError(*error);
+    return nullptr;
+  }
+  static auto* const system = SystemFunction("LoadLibraryW", &LoadLibraryW);
+  const HMODULE library = system(path);
+  if (library != nullptr) windows::KeepLibrary(library);
+  return library;
+}
+
+BOOL WINAPI FreeLibrary(HMODULE library) {
+  const auto machine = windows::ReleaseLibrary(library);
+  if (machine == nullptr) {
+    simulation::CurrentMachine()->Ledger().InvalidRelease(simulation::Resource::Library);
+    return windows::Fail(ERROR_MOD_NOT_FOUND);
+  }
+  machine->Ledger().Return(simulation::Resource::Library);
+  static auto* const system = SystemFunction("FreeLibrary", &FreeLibrary);
+  return system(library);
+}
