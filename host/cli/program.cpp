@@ -28,7 +28,8 @@ std::optional<QString> MachineFile(const Request& request) {
 
 void Perform(const Request& request, const Translations& translations, Answer& answer) {
   // The module looks at its machine while it is being loaded.
-  if (const std::optional<QString> machineFile = MachineFile(request)) {
+  const std::optional<QString> machineFile = MachineFile(request);
+  if (machineFile) {
     if (const std::optional<QString> error = OpenSimulatedMachine(*machineFile)) {
       answer.result = CouldNotTell(*error);
       return;
@@ -36,7 +37,8 @@ void Perform(const Request& request, const Translations& translations, Answer& a
   }
 
   QString error;
-  const std::unique_ptr<ModuleLibrary> library = ModuleLibrary::Open(request.moduleFile, error);
+  const std::unique_ptr<ModuleLibrary> library =
+      ModuleLibrary::Open(request.moduleFile, machineFile.has_value(), error);
   if (library == nullptr) {
     answer.result = CouldNotTell(error);
     return;

@@ -10,15 +10,19 @@ namespace orvik::host {
 namespace {
 
 #ifdef Q_OS_WIN
-constexpr QLatin1String kInstalledModule("ovk_module_raid.dll");
+constexpr QLatin1String kSuffix(".dll");
 #else
-constexpr QLatin1String kInstalledModule("ovk_module_raid.so");
+constexpr QLatin1String kSuffix(".so");
 #endif
+constexpr QLatin1String kInstalledModule("ovk_module_raid");
+constexpr QLatin1String kSimulatedModule("ovk_module_raid_simulated");
 
 // Without a folder of its own a name would be looked for along the system's library path.
-QString LibraryPath(const QString& file) {
+QString LibraryPath(const QString& file, bool simulated) {
   if (!file.isEmpty()) return QFileInfo(file).absoluteFilePath();
-  return QDir(QCoreApplication::applicationDirPath()).filePath(kInstalledModule);
+  const QDir folder(QCoreApplication::applicationDirPath());
+  if (simulated && folder.exists(kSimulatedModule + kSuffix)) return folder.filePath(kSimulatedModule + kSuffix);
+  return folder.filePath(kInstalledModule + kSuffix);
 }
 
 QString Problem(const QString& path, const QString& found) {
@@ -28,8 +32,8 @@ QString Problem(const QString& path, const QString& found) {
 
 }  // namespace
 
-std::unique_ptr<ModuleLibrary> ModuleLibrary::Open(const QString& file, QString& error) {
-  const QString path = LibraryPath(file);
+std::unique_ptr<ModuleLibrary> ModuleLibrary::Open(const QString& file, bool simulated, QString& error) {
+  const QString path = LibraryPath(file, simulated);
   // A module stays loaded until the program ends: what it handed out may hold on to code in it to the last.
   QLibrary library(path);
   if (!library.load()) {

@@ -11,8 +11,9 @@ namespace orvik::host {
 /// scanner, dispatcher) must be released before this goes.
 class ModuleLibrary {
  public:
-  /// Loads `file`, or the installed RAID module when it is empty. Null, and one line in `error`, on failure.
-  static std::unique_ptr<ModuleLibrary> Open(const QString& file, QString& error);
+  /// Loads `file`, or the installed RAID module when it is empty: where the installation has a variant of it for
+  /// simulated machines and `simulated` is set, that one. Null, and one line in `error`, on failure.
+  static std::unique_ptr<ModuleLibrary> Open(const QString& file, bool simulated, QString& error);
 
   ModuleLibrary(const ModuleLibrary&) = delete;
   ModuleLibrary& operator=(const ModuleLibrary&) = delete;
