@@ -7,18 +7,9 @@
 set -euo pipefail
 
 cache=${ORVIK_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/orvik}
-sudo=; [ "$(id -u)" = 0 ] || sudo=sudo
 say() { printf '%s\n' "$*" >&2; }
 
-missing=()
-for package in g++-mingw-w64-x86-64-posix qt6-base-dev qt6-base-dev-tools cmake ninja-build dpkg-dev ccache; do
-  dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
-done
-if [ ${#missing[@]} -gt 0 ]; then
-  say "installing ${missing[*]}"
-  { $sudo apt-get update -qq && $sudo env DEBIAN_FRONTEND=noninteractive \
-      apt-get install -y -qq --no-install-recommends "${missing[@]}"; } >&2
-fi
+"$(dirname "$0")/../packages.sh" build windows
 
 version=$(dpkg-query -W -f='${source:Version}' qt6-base-dev)
 prefix=$cache/qt-$version-windows

@@ -74,7 +74,8 @@ result "no module" ends_with 3 scan --module build/windows/bin/hostkit.dll
 result "no simulated machine here" ends_with 3 scan --machine machines/missing.json
 
 echo "-- the real module: setup API, registry, threads, text, time"
-wine regedit /S tests/windows/adapters.reg
+iconv -f UTF-8 -t UTF-16 tests/windows/adapters.reg > "$reports/adapters.reg"
+wine regedit /S "$reports/adapters.reg"
 suite build/windows/bin/windows_tests.exe "$reports/windows_tests"
 
 echo "-- all tests on the simulated machine"

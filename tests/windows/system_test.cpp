@@ -20,8 +20,10 @@ namespace {
 
 constexpr GUID kStoragePort = {0x2ACCFE60, 0xC130, 0x11D2, {0xB0, 0x82, 0x00, 0xA0, 0xC9, 0x1E, 0xFB, 0x8B}};
 
-constexpr char kPortPath[] = R"(\\?\pci#ven_1b36&dev_0008#3&11583659&0&10#{2accfe60-c130-11d2-b082-00a0c91efb8b})";
-constexpr char kRaidPath[] = R"(\\?\pci#ven_8086&dev_2822#3&11583659&0&b8#{2accfe60-c130-11d2-b082-00a0c91efb8b})";
+constexpr char kPortPath[] =
+    R"(\\?\pci#ven_1b36&dev_0008&subsys_00000000&rev_00#3&11583659&0&10#{2accfe60-c130-11d2-b082-00a0c91efb8b})";
+constexpr char kRaidPath[] =
+    R"(\\?\pci#ven_8086&dev_2822&subsys_00000000&rev_04#3&11583659&0&b8#{2accfe60-c130-11d2-b082-00a0c91efb8b})";
 
 class AdaptersTest : public testing::Test {
  protected:
@@ -49,9 +51,8 @@ TEST_F(AdaptersTest, EnumeratesPresentInterfaces) {
 
 TEST_F(AdaptersTest, ReadsDescriptions) {
   for (const auto& [index, interfaces] : paths_) {
-    EXPECT_EQ(Description(index), interfaces.front() == kRaidPath ? "Chipset SATA RAID Controller Gr\u00F6\u00DF"
-                                                                    "e"
-                                                                  : "Standard Storage Port");
+    EXPECT_EQ(Description(index),
+              interfaces.front() == kRaidPath ? "Chipset SATA RAID Gr\u00F6\u00DFe" : "Standard Storage Port");
   }
   EXPECT_EQ(Description(1000), "(none)");
 }
