@@ -16,7 +16,7 @@ void DecimalNumberHandler::SizeText(std::string& output, std::uint64_t bytes) co
     output = std::to_string(bytes) + " B";
     return;
   }
-  double value = static_cast<double>(bytes);
+  auto value = static_cast<double>(bytes);
   std::size_t unit = 0;
   // 999.995 would be rounded up to "1000.00".
   while (value >= 999.995 && unit + 1 < kUnits.size()) {

@@ -36,7 +36,7 @@ char Lower(char character) {
 
 bool Overlap(const char* left, std::size_t leftSize, const char* right, std::size_t rightSize) {
   // std::less orders pointers into different objects too.
-  const std::less<const char*> before;
+  const std::less<> before;
   return before(left, right + rightSize) && before(right, left + leftSize);
 }
 
