@@ -20,7 +20,8 @@ set(layers
   "utils: core outside Qt"
   "platform: simulation core utils/text/string_handler.h outside"
   "simulation: Qt"
-  "host: core module/raid/device_records.h Qt CLI windows.h"
+  "host: core module/raid/device_records.h module/storage/protocol.h module/storage/protocol_properties.h
+   module/storage/status.h Qt CLI windows.h"
   "tests: *")
 set(outside_headers "windows.h|setupapi.h|winioctl.h|ntddscsi.h|hostkit.h")
 

@@ -62,9 +62,9 @@ DWORD_PTR WINAPI SetThreadAffinityMask(HANDLE thread, DWORD_PTR mask) {
   cpu_set_t previous;
   CPU_ZERO(&previous);
   if (pthread_getaffinity_np(pthread_self(), sizeof(previous), &previous) != 0) return fail(ERROR_INVALID_PARAMETER);
-  const cpu_set_t wanted = ToSet(mask & ProcessMask());
-  if (CPU_COUNT(&wanted) == 0 || pthread_setaffinity_np(pthread_self(), sizeof(wanted), &wanted) != 0) {
-    return fail(ERROR_INVALID_PARAMETER);
-  }
+  // The mask must be a subset of the process's.
+  if (mask == 0 || (mask & ~ProcessMask()) != 0) return fail(ERROR_INVALID_PARAMETER);
+  const cpu_set_t wanted = ToSet(mask);
+  if (pthread_setaffinity_np(pthread_self(), sizeof(wanted), &wanted) != 0) return fail(ERROR_INVALID_PARAMETER);
   return ToMask(previous);
 }

@@ -1,43 +1,45 @@
+// The runtime library's bounded functions and the conversions of text.
+
 #include <windows.h>
 #include <gtest/gtest.h>
 
-#include <array>
+#include <cerrno>
 #include <string>
+#include <tuple>
 
 namespace orvik::platform::windows {
 namespace {
 
-std::string Convert(const std::basic_string<WCHAR>& wide) {
-  std::array<char, 32> narrow{};
-  const int length = static_cast<int>(wide.size());
-  const int size = WideCharToMultiByte(CP_UTF8, 0, wide.data(), length, narrow.data(), 32, nullptr, nullptr);
-  EXPECT_EQ(size, WideCharToMultiByte(CP_UTF8, 0, wide.data(), length, nullptr, 0, nullptr, nullptr));
-  return {narrow.data(), static_cast<std::size_t>(size)};
+TEST(BoundedRuntime, CopiesAndAppendsWhatFits) {
+  using Function = errno_t (*)(char*, std::size_t, const char*, std::size_t);
+  using Row = std::tuple<Function, const char*, std::size_t, std::size_t, errno_t, std::string>;
+  // The last one appends to a text without an end.
+  for (const auto& [function, source, size, count, result, text] :
+       {Row{strncpy_s, "abc", 4, 9, 0, "abc"}, Row{strncpy_s, "abcdef", 4, 3, 0, "abc"},
+        Row{strncpy_s, "abcdef", 4, 4, ERANGE, ""}, Row{strncpy_s, "abcdef", 4, _TRUNCATE, STRUNCATE, "abc"},
+        Row{strncpy_s, nullptr, 4, 3, EINVAL, ""}, Row{strncat_s, "cdefg", 6, 3, 0, "abcde"},
+        Row{strncat_s, "cdef", 6, 4, ERANGE, ""}, Row{strncat_s, "cdef", 6, _TRUNCATE, STRUNCATE, "abcde"},
+        Row{strncat_s, "c", 2, 1, EINVAL, ""}}) {
+    std::string destination("ab\0xxx", 6);
+    EXPECT_EQ(function(destination.data(), size, source, count), result);
+    EXPECT_EQ(destination.c_str(), text) << size << " " << count;
+  }
 }
 
 TEST(WideCharToMultiByte, WritesUtf8) {
-  const WCHAR high = 0xD83D;
-  const WCHAR low = 0xDCBE;
   const std::pair<std::basic_string<WCHAR>, std::string> rows[] = {
-      {TEXT("RAID"), "RAID"},
       {TEXT("\u007F\u0080\u07FF\u0800\uFFFF"), "\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF"},
-      {{high, low}, "\xF0\x9F\x92\xBE"},
-      {{high, 'a'},
-       "\xEF\xBF\xBD"
-       "a"},
-      {{low, high}, "\xEF\xBF\xBD\xEF\xBF\xBD"},
-      {{'a', 0, 'b'}, std::string("a\0b", 3)},
+      {{0xD83D, 0xDCBE}, "\xF0\x9F\x92\xBE"},
+      {{0xDCBE, 0xD83D, '!'}, "\xEF\xBF\xBD\xEF\xBF\xBD!"},
   };
-  for (const auto& [wide, narrow] : rows) EXPECT_EQ(Convert(wide), narrow);
-}
-
-TEST(WideCharToMultiByte, CountsTheTerminatingZeroOfALengthOfMinusOne) {
-  std::array<char, 4> narrow = {'x', 'x', 'x', 'x'};
-  EXPECT_EQ(WideCharToMultiByte(CP_UTF8, 0, TEXT("abc"), -1, nullptr, 0, nullptr, nullptr), 4);
-  EXPECT_EQ(WideCharToMultiByte(CP_UTF8, 0, TEXT("abc"), -1, narrow.data(), 4, nullptr, nullptr), 4);
-  EXPECT_EQ(narrow, (std::array<char, 4>{'a', 'b', 'c', 0}));
-  EXPECT_EQ(WideCharToMultiByte(CP_UTF8, 0, TEXT("abc"), -1, narrow.data(), 3, nullptr, nullptr), 0);
-  EXPECT_EQ(GetLastError(), ERROR_INSUFFICIENT_BUFFER);
+  for (const auto& [wide, expected] : rows) {
+    std::string narrow(32, 'x');
+    const int size = WideCharToMultiByte(CP_UTF8, 0, wide.c_str(), -1, narrow.data(), 32, nullptr, nullptr);
+    EXPECT_EQ(size, static_cast<int>(expected.size() + 1));
+    EXPECT_EQ(narrow.c_str(), expected);
+    EXPECT_EQ(WideCharToMultiByte(CP_UTF8, 0, wide.c_str(), -1, narrow.data(), size - 1, nullptr, nullptr), 0);
+    EXPECT_EQ(GetLastError(), ERROR_INSUFFICIENT_BUFFER);
+  }
 }
 
 }  // namespace

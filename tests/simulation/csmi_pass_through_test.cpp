@@ -1,6 +1,4 @@
-#include <gtest/gtest.h>
-
-#include <functional>
+#include <tuple>
 
 #include "tests/simulation/csmi_packets.h"
 
@@ -12,7 +10,7 @@ namespace {
 class CsmiPassThrough : public testing::Test {
  protected:
   CsmiController controller{
-      {.drives = {SataDriveDescription{.model = "ST4000OV001", .serial = "OVZ1", .sectors = 100},
+      {.drives = {SataDriveDescription{.model = "ST4000OV001", .sectors = 100},
                   SasDriveDescription{.vendor = "ORVIK", .product = "SAS10K600", .sectors = 200},
                   SataDriveDescription{.sectors = 1, .silent = true},
                   SasDriveDescription{.sectors = 1, .silent = true}},
@@ -23,115 +21,92 @@ class CsmiPassThrough : public testing::Test {
                 {.deviceType = SasDeviceType::EdgeExpander},
                 {.deviceType = SasDeviceType::EndDevice, .protocol = SasProtocol::Smp},
                 {}}}};
-  Bytes phyInfo = PhyInfo(controller);
+  Bytes phyInfo = Answered(controller, Packet("CSMISAS", 20, 2080));
+
+  // A request to what is attached to a phy, by the phy's own numbers and address.
+  Bytes Request(std::uint32_t controlCode, std::size_t phy, std::size_t size) {
+    Bytes packet = Packet("CSMISAS", controlCode, size);
+    const std::size_t entry = 32 + 64 * phy;
+    packet.at(28) = phyInfo.at(entry + 20);
+    packet.at(29) = phyInfo.at(entry + 28);
+    std::ranges::copy(Slice(phyInfo, entry + 48, 8), packet.begin() + 32);
+    return packet;
+  }
+
+  Bytes Ssp(std::size_t phy, const Bytes& cdb, std::uint32_t dataLength) {
+    Bytes packet = Request(24, phy, 372 + dataLength);
+    Put(packet, {48, 1, cdb.size()});
+    Put(packet, {68, 4, dataLength == 0 ? 4U : 1U});
+    Put(packet, {96, 4, dataLength});
+    std::ranges::copy(cdb, packet.begin() + 52);
+    return packet;
+  }
+
+  Bytes Stp(std::size_t phy, std::uint8_t command, std::uint32_t dataLength) {
+    Bytes packet = Request(25, phy, 168 + dataLength);
+    std::ranges::copy(Bytes{0x27, 0x80, command}, packet.begin() + 44);
+    Put(packet, {64, 4, dataLength == 0 ? 0x14U : 0x11U});
+    Put(packet, {68, 4, dataLength});
+    return packet;
+  }
 
   Bytes Send(const Bytes& packet) { return Answered(controller, packet); }
 };
 
-TEST_F(CsmiPassThrough, CarriesAnAtaCommandThere) {
-  const Bytes reply = Send(StpRequest(phyInfo, 0, 0xEC, 512));
-  EXPECT_EQ(ReturnCode(reply), 0U);
-  EXPECT_EQ(reply[72], 0);
-  EXPECT_EQ(Bytes(reply.begin() + 76, reply.begin() + 80), (Bytes{0x34, 0x40, 0x50, 0x00}));
-  EXPECT_EQ(Le(reply, 160, 4), 512U);
+TEST_F(CsmiPassThrough, CarriesAtaCommands) {
+  Bytes identify = Stp(0, 0xEC, 512);
+  const Bytes reply = Send(identify);
+  ExpectFields(reply, {{20, 4, 0}, {72, 1, 0}, {76, 4, 0x00504034}, {160, 4, 512}});
   EXPECT_EQ(Text(reply, 164 + 54, 10), "TS0400VO00");
-}
+  // Sent without a data direction it must not reach into the data area.
+  Put(identify, {64, 4, 0x14});
+  EXPECT_EQ(Slice(Send(identify), 160, 520), Bytes(520));
 
-TEST_F(CsmiPassThrough, BringsBackTheRegistersOfARefusedAtaCommand) {
-  Bytes request = StpRequest(phyInfo, 0, 0x42, 0);
+  Bytes refused = Stp(0, 0x42, 0);
   const Bytes registers = {0x11, 0x22, 0x33, 0x40, 0x44, 0x55, 0x66};
-  std::ranges::copy(registers, request.begin() + 44 + 4);
-  PutLe(request, 44 + 12, 2, 0x0201);
-  const Bytes reply = Send(request);
-  EXPECT_EQ(ReturnCode(reply), 0U);
-  EXPECT_EQ(reply[78], 0x51);
-  EXPECT_EQ(reply[79], 0x04);
-  EXPECT_EQ(Bytes(reply.begin() + 80, reply.begin() + 87), registers);
-  EXPECT_EQ(Le(reply, 88, 2), 0x0201U);
+  std::ranges::copy(registers, refused.begin() + 48);
+  Put(refused, {56, 2, 0x0201});
+  const Bytes back = Send(refused);
+  ExpectFields(back, {{20, 4, 0}, {78, 1, 0x51}, {79, 1, 0x04}, {88, 2, 0x0201}});
+  EXPECT_EQ(Slice(back, 80, 7), registers);
 }
 
-TEST_F(CsmiPassThrough, CarriesAScsiCommandThere) {
-  const Bytes reply = Send(SspRequest(phyInfo, 1, {0x12, 0, 0, 0, 36, 0}, 36));
-  EXPECT_EQ(ReturnCode(reply), 0U);
-  EXPECT_EQ(Bytes(reply.begin() + 100, reply.begin() + 108), Bytes(8));
-  EXPECT_EQ(Le(reply, 364, 4), 36U);
+TEST_F(CsmiPassThrough, CarriesScsiCommands) {
+  const Bytes reply = Send(Ssp(1, {0x12, 0, 0, 0, 36, 0}, 36));
+  ExpectFields(reply, {{20, 4, 0}, {100, 8, 0}, {364, 4, 36}});
   EXPECT_EQ(Text(reply, 368 + 8, 25), "ORVIK   SAS10K600        ");
-}
-
-TEST_F(CsmiPassThrough, BringsBackTheSenseOfARefusedScsiCommand) {
-  const Bytes reply = Send(SspRequest(phyInfo, 1, {0xC0, 0, 0, 0, 0, 0}, 0));
-  EXPECT_EQ(ReturnCode(reply), 0U);
-  EXPECT_EQ(Bytes(reply.begin() + 104, reply.begin() + 108), (Bytes{2, 2, 18, 0}));
-  EXPECT_EQ(reply[108], 0x70);
-  EXPECT_EQ(reply[110], 0x05);
-  EXPECT_EQ(reply[120], 0x20);
-}
-
-// A command sent without a data direction must not reach into the data area.
-TEST_F(CsmiPassThrough, MovesNoDataWithoutADirection) {
-  Bytes request = StpRequest(phyInfo, 0, 0xEC, 512);
-  PutLe(request, 64, 4, 0x14);
-  const Bytes reply = Send(request);
-  EXPECT_EQ(Le(reply, 160, 4), 0U);
-  EXPECT_EQ(Bytes(reply.begin() + 164, reply.end()), Bytes(516));
+  const Bytes refused = Send(Ssp(1, {0xC0, 0, 0, 0, 0, 0}, 0));
+  ExpectFields(refused, {{20, 4, 0}, {104, 4, 0x00120202}, {108, 1, 0x70}, {110, 1, 0x05}, {120, 1, 0x20}});
 }
 
 TEST_F(CsmiPassThrough, TellsWhyADriveCannotBeReached) {
-  struct Row {
-    const char* what;
-    std::size_t phy;
-    std::function<void(Bytes&)> change;
-    std::uint64_t stpCode, sspCode;
-  };
-  const auto nothing = [](Bytes&) {};
-  const Row rows[] = {
-      {"no such phy", 0, [](Bytes& p) { p[28] = 9; }, 2003, 2003},
-      {"another port", 0, [](Bytes& p) { p[29] = 1; }, 2004, 2004},
-      {"neither phy nor port", 0, [](Bytes& p) { p[28] = p[29] = 0xFF; }, 2006, 2006},
-      {"no such port", 0, [](Bytes& p) { p[28] = 0xFF, p[29] = 9; }, 2007, 2007},
-      {"another address", 0, [](Bytes& p) { p[39] ^= 1; }, 2009, 2009},
-      {"SATA drive", 0, nothing, 0, 2009},
-      {"SAS drive", 1, nothing, 2010, 0},
-      {"silent SATA drive", 2, nothing, 2009, 2009},
-      {"silent SAS drive", 3, nothing, 2010, 2009},
-      {"expander", 4, nothing, 2013, 2013},
-      {"SMP target", 5, nothing, 2009, 2009},
-      {"nothing attached", 6, nothing, 2009, 2009},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.what);
-    Bytes stp = StpRequest(phyInfo, row.phy, 0xEC, 512);
-    row.change(stp);
-    const Bytes stpReply = Send(stp);
-    EXPECT_EQ(ReturnCode(stpReply), row.stpCode);
-    EXPECT_EQ(stpReply[72] != 0, row.stpCode != 0);
-    Bytes ssp = SspRequest(phyInfo, row.phy, {0, 0, 0, 0, 0, 0}, 0);
-    row.change(ssp);
-    const Bytes sspReply = Send(ssp);
-    EXPECT_EQ(ReturnCode(sspReply), row.sspCode);
-    EXPECT_EQ(sspReply[101] != 0, row.sspCode != 0);
+  using Row = std::tuple<std::size_t, Field, std::uint64_t, std::uint64_t>;
+  // No such phy, the phy of another port, neither phy nor port, no such port, another address; then each phy.
+  for (const auto& [phy, change, stpCode, sspCode] :
+       {Row{0, {28, 1, 9}, 2003, 2003}, Row{0, {29, 1, 1}, 2004, 2004}, Row{0, {28, 2, 0xFFFF}, 2006, 2006},
+        Row{0, {28, 2, 0x09FF}, 2007, 2007}, Row{0, {32, 8, 1}, 2009, 2009}, Row{0, {}, 0, 2009}, Row{1, {}, 2010, 0},
+        Row{2, {}, 2009, 2009}, Row{3, {}, 2010, 2009}, Row{4, {}, 2013, 2013}, Row{5, {}, 2009, 2009},
+        Row{6, {}, 2009, 2009}}) {
+    SCOPED_TRACE(phy);
+    Bytes stp = Stp(phy, 0xEC, 512);
+    Put(stp, change);
+    ExpectFields(stp = Send(stp), {{20, 4, stpCode}});
+    EXPECT_EQ(stp[72] != 0, stpCode != 0);
+    Bytes ssp = Ssp(phy, Bytes(6), 0);
+    Put(ssp, change);
+    ExpectFields(ssp = Send(ssp), {{20, 4, sspCode}});
+    EXPECT_EQ(ssp[101] != 0, sspCode != 0);
   }
 }
 
 TEST_F(CsmiPassThrough, RefusesMalformedRequests) {
-  const std::pair<const char*, std::function<void(Bytes&)>> stpRows[] = {
-      {"data length beyond the packet", [](Bytes& p) { PutLe(p, 68, 4, 517); }},
-      {"data length near 4 GiB", [](Bytes& p) { PutLe(p, 68, 4, 0xFFFFFFFF); }},
-      {"not a command FIS", [](Bytes& p) { p[44] = 0x34; }},
-      {"command bit clear", [](Bytes& p) { p[45] = 0; }},
-  };
-  for (const auto& [what, change] : stpRows) {
-    SCOPED_TRACE(what);
-    Bytes request = StpRequest(phyInfo, 0, 0xEC, 512);
-    change(request);
-    EXPECT_EQ(ReturnCode(Send(request)), 3U);
+  // Data beyond the packet, and near 4 GiB; a FIS of another type, and without its command bit; a CDB too long.
+  for (const Field& change :
+       {Field{68, 4, 517}, Field{68, 4, 0xFFFFFFFF}, Field{44, 1, 0x34}, Field{45, 1, 0}, Field{48, 1, 17}}) {
+    Bytes packet = change.offset == 48 ? Ssp(1, Bytes(6), 0) : Stp(0, 0xEC, 512);
+    Put(packet, change);
+    ExpectFields(Send(packet), {{20, 4, 3}});
   }
-  Bytes request = SspRequest(phyInfo, 1, {0x12, 0, 0, 0, 36, 0}, 36);
-  request[48] = 17;
-  EXPECT_EQ(ReturnCode(Send(request)), 3U);
-  request[48] = 6;
-  PutLe(request, 96, 4, 41);
-  EXPECT_EQ(ReturnCode(Send(request)), 3U);
 }
 
 }  // namespace

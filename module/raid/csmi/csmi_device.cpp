@@ -97,11 +97,6 @@ void CsmiDevice::AddNvmeMembers(std::vector<PhysicalDrive>& drives) {
   });
 }
 
-// No protocol object reaches a member drive yet (issue 4).
-storage::Status CsmiDevice::GetStorageDevices(std::vector<StorageDeviceEntry>& /*devices*/) {
-  return status::kFailure;
-}
-
 storage::Status CsmiDevice::GetControllerStatus(std::uint32_t& status, std::uint32_t& offlineReason) {
   ControllerStatusPacket packet;
   const storage::Status sent = ExchangeCsmiPacket(port_.Get(), packet);

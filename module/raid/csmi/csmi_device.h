@@ -32,6 +32,7 @@ class CsmiDevice final : public Device {
   storage::Status VisitRaidSets(const RaidInformationPacket& information, const SetVisitor& visit);
 
   void AddNvmeMembers(std::vector<PhysicalDrive>& drives);
+  storage::Status AddNvmeStorageDevices(std::vector<StorageDeviceEntry>& devices);
 
   utils::UniqueHandle port_;
 };

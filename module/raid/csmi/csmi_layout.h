@@ -122,7 +122,11 @@ inline constexpr Block kCdb{52, 16};
 inline constexpr Le32 kFlags{68};
 inline constexpr Le32 kDataLength{96};
 inline constexpr U8 kSspStatus{101};
+inline constexpr U8 kDataPresent{104};
+inline constexpr std::uint8_t kSensePresent = 2;
 inline constexpr U8 kScsiStatus{105};
+inline constexpr Le16 kResponseLength{106};
+inline constexpr Block kResponse{108, 256};
 inline constexpr std::size_t kData = 368;
 inline constexpr std::size_t kSizeWithoutData = 372;
 }  // namespace ssp
@@ -161,6 +165,16 @@ inline constexpr std::uint8_t kIsCommand = 0x80;
 /// Register FIS, device to host (Serial ATA 3, 10.5.6).
 namespace status_fis {
 inline constexpr U8 kStatus{2};
+inline constexpr U8 kError{3};
+inline constexpr U8 kLbaLow{4};
+inline constexpr U8 kLbaMid{5};
+inline constexpr U8 kLbaHigh{6};
+inline constexpr U8 kDevice{7};
+inline constexpr U8 kLbaLowExp{8};
+inline constexpr U8 kLbaMidExp{9};
+inline constexpr U8 kLbaHighExp{10};
+inline constexpr U8 kSectorCount{12};
+inline constexpr U8 kSectorCountExp{13};
 }  // namespace status_fis
 
 }  // namespace orvik::module::raid::csmi

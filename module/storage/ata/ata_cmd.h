@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "module/storage/status.h"
+#include "module/storage/transfer.h"
 
 namespace orvik::module::storage {
 
@@ -27,23 +27,38 @@ class AtaCmd {
   std::uint64_t length = 0;  ///< bytes to transfer; after the send the bytes received
   std::uint32_t timeout = kDefaultTimeoutSeconds;
   std::uint8_t* buffer = nullptr;
+
+ protected:
+  void Transfer(Direction way, std::uint8_t* data, std::uint64_t size) {
+    direction = way;
+    buffer = data;
+    length = size;
+  }
 };
 
 /// Bit 0 of the STATUS register: the command ended with an error.
 inline constexpr std::uint8_t kAtaStatusError = 0x01;
 
-/// IDENTIFY DEVICE (ACS-4, 7.13): 512 bytes in.
-class IdentifyDevice final : public AtaCmd {
- public:
-  static constexpr std::uint64_t kDataSize = 512;
+/// Bits of the ERROR register (ACS-4, 6.3).
+namespace ata_error {
+inline constexpr std::uint8_t kAbort = 0x04;
+inline constexpr std::uint8_t kIdNotFound = 0x10;
+inline constexpr std::uint8_t kUncorrectable = 0x40;
+inline constexpr std::uint8_t kInterfaceCrc = 0x80;
+}  // namespace ata_error
 
-  explicit IdentifyDevice(std::uint8_t* data) {
-    command = 0xEC;
-    sectorCount = 1;
-    direction = Direction::kIn;
-    length = kDataSize;
-    buffer = data;
-  }
-};
+/// A register's current value, and the previous one that a 48-bit command also uses.
+constexpr std::uint8_t Current(std::uint16_t value) {
+  return static_cast<std::uint8_t>(value & 0xFF);
+}
+constexpr std::uint8_t Previous(std::uint16_t value) {
+  return static_cast<std::uint8_t>(value >> 8);
+}
+constexpr std::uint16_t Register(std::uint8_t current, std::uint8_t previous) {
+  return static_cast<std::uint16_t>(previous << 8 | current);
+}
+constexpr void SetCurrent(std::uint16_t& value, std::uint8_t current) {
+  value = Register(current, Previous(value));
+}
 
 }  // namespace orvik::module::storage

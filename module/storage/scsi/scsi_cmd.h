@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "module/storage/status.h"
+#include "module/storage/transfer.h"
 #include "utils/bytes/byte_view.h"
 
 namespace orvik::module::storage {
@@ -29,13 +29,22 @@ class ScsiCmd {
   std::uint32_t timeout = kDefaultTimeoutSeconds;
 
  protected:
-  /// The CDB as a view, for the layouts of the subclasses.
-  utils::MutableByteView Cdb() { return {cdb}; }
+  /// Empties the CDB and gives it its operation code.
+  utils::MutableByteView StartCdb(std::uint8_t operationCode, std::uint8_t size) {
+    cdb.fill(0);
+    cdb[0] = operationCode;
+    cdbLength = size;
+    return {cdb};
+  }
 
-  void TakeIn(std::uint8_t* data, std::uint64_t size) {
+  void Transfer(Direction way, std::uint8_t* data, std::uint64_t size) {
+    direction = way;
     buffer = data;
     length = size;
-    direction = size == 0 ? Direction::kNone : Direction::kIn;
+  }
+
+  void TakeIn(std::uint8_t* data, std::uint64_t size) {
+    Transfer(size == 0 ? Direction::kNone : Direction::kIn, data, size);
   }
 };
 
