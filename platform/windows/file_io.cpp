@@ -9,6 +9,7 @@
 
 #include "platform/windows/failure.h"
 #include "platform/windows/handle_table.h"
+#include "platform/windows/system_handles.h"
 #include "platform/windows/wide_text.h"
 #include "simulation/machine/current_machine.h"
 
@@ -24,7 +25,7 @@ struct File {
 };
 
 windows::HandleTable<File>& Files() {
-  static auto& files = *new windows::HandleTable<File>(0x100);
+  static auto& files = *new windows::HandleTable<File>(0x5A00000100);
   return files;
 }
 
@@ -49,6 +50,7 @@ HANDLE WINAPI CreateFileW(LPCWSTR name, DWORD /*access*/, DWORD /*share*/, LPSEC
 BOOL WINAPI CloseHandle(HANDLE handle) {
   const auto file = Files().Remove(handle);
   if (file == nullptr) {
+    if (windows::CloseSystemHandle(handle)) return TRUE;
     simulation::CurrentMachine()->Ledger().InvalidRelease(simulation::Resource::FileHandle);
     return windows::Fail(ERROR_INVALID_HANDLE);
   }

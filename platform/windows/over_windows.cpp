@@ -6,6 +6,7 @@
 
 #include "platform/windows/failure.h"
 #include "platform/windows/library_references.h"
+#include "platform/windows/system_handles.h"
 #include "simulation/machine/current_machine.h"
 
 namespace windows = orvik::platform::windows;
@@ -20,6 +21,12 @@ Function* SystemFunction(const char* name, Function* /*type*/) {
 }
 
 }  // namespace
+
+// Every program that meets this library before the system's closes all of its handles here.
+bool windows::CloseSystemHandle(HANDLE handle) {
+  static auto* const system = SystemFunction("CloseHandle", &CloseHandle);
+  return system(handle) != FALSE;
+}
 
 DWORD_PTR WINAPI SetThreadAffinityMask(HANDLE thread, DWORD_PTR mask) {
   const auto machine = simulation::CurrentMachine();

@@ -42,7 +42,7 @@ PYTHON
   if grep -q ' failed$' "$2"; then
     failed=$((failed + $(grep -c ' failed$' "$2")))
     grep ' failed$' "$2"
-    grep -B 1 -A 12 'Failure$' "$2.log" | head -n 60
+    grep -B 1 -A 12 ': Failure' "$2.log" | head -n 60 || true
   fi
 }
 

@@ -18,6 +18,11 @@ QByteArray Contents(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// Text streams end their lines the Windows way there.
+QByteArray WithPlainLineEnds(QByteArray text) {
+  return text.replace("\r\n", "\n");
+}
+
 }  // namespace
 
 HostProcess::HostProcess() {
@@ -50,11 +55,12 @@ Finished HostProcess::Run(const QStringList& arguments) const {
   Start(process, arguments);
   EXPECT_TRUE(process.waitForFinished(kPatienceMilliseconds)) << arguments.join(' ').toStdString();
   EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-  return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+  return {process.exitCode(), WithPlainLineEnds(process.readAllStandardOutput()),
+          WithPlainLineEnds(process.readAllStandardError())};
 }
 
 QStringList HostProcess::LogLines() const {
-  return QString::fromUtf8(Contents(PathOf("log"))).split('\n', Qt::SkipEmptyParts);
+  return QString::fromUtf8(WithPlainLineEnds(Contents(PathOf("log")))).split('\n', Qt::SkipEmptyParts);
 }
 
 }  // namespace orvik::tests

@@ -40,8 +40,11 @@ bool Overlap(const char* left, std::size_t leftSize, const char* right, std::siz
   return before(left, right + rightSize) && before(right, left + leftSize);
 }
 
-std::uint32_t CountOrError(int written) {
-  return written < 0 ? StringHandler::kError : static_cast<std::uint32_t>(written);
+/// The count of a formatting call, unless it failed or left no room for the terminating zero: not every runtime
+/// library calls that a failure.
+std::uint32_t CountOrError(int written, std::size_t size) {
+  const bool fits = written >= 0 && static_cast<std::size_t>(written) < size;
+  return fits ? static_cast<std::uint32_t>(written) : StringHandler::kError;
 }
 
 }  // namespace
@@ -114,7 +117,7 @@ std::uint32_t WinStringHandlerImp::FormatBounded(char* buffer, std::size_t size,
   va_start(arguments, format);
   const int written = vsprintf_s(buffer, size, format, arguments);
   va_end(arguments);
-  return CountOrError(written);
+  return CountOrError(written, size);
 }
 
 int WinStringHandlerImp::CopyN(char* destination, std::size_t size, const char* source, std::size_t count) const {
@@ -163,7 +166,7 @@ std::uint32_t WinStringHandlerImp::Format(char* buffer, std::size_t count, const
   va_start(arguments, format);
   const int written = std::vsnprintf(buffer, count, format, arguments);
   va_end(arguments);
-  return written >= 0 && static_cast<std::size_t>(written) >= count ? kError : CountOrError(written);
+  return CountOrError(written, count);
 }
 
 int WinStringHandlerImp::PrintToFile(std::FILE* file, const char* format, ...) const {

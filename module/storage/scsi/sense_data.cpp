@@ -81,7 +81,8 @@ void SenseData::DecodeDescriptors(ByteView sense) {
 
 void SenseData::StoreKeySpecific(ByteView bytes) {
   if (bytes.Size() == 0) return;
-  std::ranges::copy(bytes.Bytes(), descriptors[kSenseKeySpecific].begin());
+  auto& value = descriptors[kSenseKeySpecific];
+  std::copy_n(bytes.Bytes().begin(), std::min(bytes.Size(), value.size()), value.begin());
 }
 
 }  // namespace orvik::module::storage

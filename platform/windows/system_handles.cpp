@@ -1,0 +1,6 @@
+#include "platform/windows/system_handles.h"
+
+// There is no Windows beneath the machine here, so no handle but the machine's.
+bool orvik::platform::windows::CloseSystemHandle(HANDLE /*handle*/) {
+  return false;
+}
