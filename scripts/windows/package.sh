@@ -15,12 +15,11 @@ version=$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 name=orvik-raid-$version-windows
 stage=build/package/$name
 rm -rf build/package
-mkdir -p "$stage/machines" "$stage/platforms"
+mkdir -p "$stage/machines"
 
 cp build/windows/bin/{orvik-diag.exe,ovk_module_raid.dll,hostkit.dll} "$stage"
 cp build/windows-simulated/bin/{ovk_module_raid_simulated,hostkit_simulated,orvik_windows,orvik_simulation}.dll "$stage"
 cp machines/*.json "$stage/machines"
-cp "$ORVIK_QT_WINDOWS/plugins/platforms/qwindows.dll" "$stage/platforms"
 
 # Every DLL that something in the folder imports and that a folder of ours has, until nothing new turns up.
 folders=("$ORVIK_QT_WINDOWS/bin" "$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")"
