@@ -33,7 +33,7 @@ only_in '\b(memcpy|memmove|memset|strcpy|sprintf)\b' \
   "raw copies belong behind the bounded views" utils/bytes simulation/bytes
 only_in 'reinterpret_cast|__attribute__\(\(packed|#pragma pack' \
   "casts of buffers belong into the headers for bytes" utils/bytes simulation/bytes \
-  utils/windows/unique_handle.h platform/hostkit/libraries.cpp platform/windows
+  utils/windows/unique_handle.h platform/hostkit/libraries.cpp platform/windows host/library
 only_in '\b(CloseHandle|SetupDiDestroyDeviceInfoList)\(' \
   "handles belong to owners" utils/windows/unique_handle.h platform/windows
 only_in '^ *# *(ifdef|ifndef|if) ' \

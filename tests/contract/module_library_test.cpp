@@ -49,10 +49,10 @@ std::shared_ptr<Machine> InstallMirror() {
   auto adapter = PciRaidAdapter("2822", 23);
   adapter.csmi.emplace();
   for (const char* const serial : {"A", "B"}) {
-    adapter.csmi->drives.push_back(
+    adapter.csmi->drives.emplace_back(
         SataDriveDescription{.model = "WDC WD10ORVK", .serial = serial, .firmware = "1", .sectors = 1953525168});
   }
-  adapter.csmi->drives.push_back(
+  adapter.csmi->drives.emplace_back(
       SasDriveDescription{.vendor = "ORVIK", .product = "OVS300", .revision = "1", .sectors = 1000});
   adapter.csmi->raidSets.push_back(
       {.type = CsmiRaidType::Raid1, .capacityMiB = 953867, .members = {{.drive = 0}, {.drive = 1}}});

@@ -34,7 +34,7 @@ TEST(CsmiDeviceTest, DescribesEveryRaidTypeAndStatus) {
                                             "UNKNOWN"};
   static constexpr std::uint32_t kStates[] = {0, 1, 5, 3, 6, 6, 6, 6, 6, 6, 6, 6};
   std::vector<CsmiRaidSetDescription> sets;
-  for (std::uint8_t i = 0; i < std::size(kLevels); ++i) {
+  for (std::size_t i = 0; i < std::size(kLevels); ++i) {
     sets.push_back(Set(CsmiRaidType(i), CsmiRaidStatus(i), i % 3));
   }
   Install({.adapters = {Controller(2, sets)}});
@@ -90,11 +90,11 @@ TEST(CsmiDeviceTest, StopsAtTheSetThatTheControllerDoesNotKnow) {
 
 TEST(CsmiDeviceTest, IdentifiesWhatIsAttached) {
   auto adapter = Controller(1, {});
-  adapter.csmi->drives.push_back(SasDriveDescription{
+  adapter.csmi->drives.emplace_back(SasDriveDescription{
       .vendor = "ORVIK", .product = "OVS300", .revision = "0001", .serial = "S1", .sectors = 585937500});
-  adapter.csmi->drives.push_back(
+  adapter.csmi->drives.emplace_back(
       SataDriveDescription{.model = "ST4000OV001", .serial = "Z1", .firmware = "SC60", .sectors = 7814037168});
-  adapter.csmi->drives.push_back(
+  adapter.csmi->drives.emplace_back(
       NvmeDriveDescription{.model = "NVMe ORVK SSD", .serial = "N1", .firmware = "1", .sectors = 1000});
   adapter.csmi->raidSets.push_back(
       {.members = {{.drive = 0}, {.drive = 3}, {.model = "an nVmE drive", .serial = "N2"}}});
@@ -147,7 +147,7 @@ TEST(CsmiDeviceTest, LeavesOutDrivesThatDoNotIdentify) {
            Case{"CC_CSMI_SAS_SSP_PASSTHRU", 2, {.returnCode = 1}, 1},
        }) {
     auto adapter = Controller(1, {});
-    adapter.csmi->drives.push_back(SasDriveDescription{.vendor = "ORVIK", .product = "OVS300", .sectors = 1000});
+    adapter.csmi->drives.emplace_back(SasDriveDescription{.vendor = "ORVIK", .product = "OVS300", .sectors = 1000});
     const auto machine = Install({.adapters = {adapter}});
     const auto device = OpenDevice();
     machine->Faults().Add({.operation = row.packet, .call = row.call, .effects = row.effects});

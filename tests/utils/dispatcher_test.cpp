@@ -168,6 +168,7 @@ TEST(ThreadPoolTest, ManyProducersManyWorkers) {
   ThreadPool pool;
   pool.Start(4);
   std::vector<std::jthread> producers;
+  producers.reserve(4);
   for (int producer = 0; producer < 4; ++producer) {
     producers.emplace_back([&] {
       for (int i = 0; i < 100; ++i) {

@@ -134,7 +134,7 @@ TEST(StringHandlerTest, Converts) {
   EXPECT_EQ(widened.size(), 2U);
   EXPECT_EQ(static_cast<unsigned>(widened[1]), 0xE9U);
   std::tm time{};
-  EXPECT_EQ(Handler().LocalTime(&time, 86400 * 365), 0);
+  EXPECT_EQ(Handler().LocalTime(&time, 31536000), 0);
   EXPECT_EQ(time.tm_year, 71);
 }
 
