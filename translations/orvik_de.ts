@@ -370,6 +370,18 @@
         <translation>%1 Byte</translation>
     </message>
     <message>
+        <source>%1 degrees Celsius</source>
+        <translation>%1 Grad Celsius</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%1 zu je %2 Byte</translation>
+    </message>
+    <message>
+        <source>%1 revolutions per minute</source>
+        <translation>%1 Umdrehungen pro Minute</translation>
+    </message>
+    <message>
         <source>%1: expected a diagnostics module library, found %2</source>
         <translation>%1: eine Diagnosemodul-Bibliothek wurde erwartet, gefunden: %2</translation>
     </message>
@@ -378,6 +390,13 @@
         <translation>
             <numerusform>%n RAID-Controller</numerusform>
             <numerusform>%n RAID-Controller</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n drive(s)</source>
+        <translation>
+            <numerusform>%n Laufwerk</numerusform>
+            <numerusform>%n Laufwerke</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -395,8 +414,44 @@
         </translation>
     </message>
     <message>
+        <source>(required)</source>
+        <translation>(nötig)</translation>
+    </message>
+    <message>
         <source>(see %1 --help)</source>
         <translation>(siehe %1 --help)</translation>
+    </message>
+    <message>
+        <source>48-bit addresses</source>
+        <translation>48-Bit-Adressen</translation>
+    </message>
+    <message>
+        <source>A self-test is under way already; --abort ends it</source>
+        <translation>Ein Selbsttest läuft bereits; --abort beendet ihn</translation>
+    </message>
+    <message>
+        <source>A short self-test; what is done without an option</source>
+        <translation>Ein kurzer Selbsttest; das geschieht auch ohne Option</translation>
+    </message>
+    <message>
+        <source>ATA error</source>
+        <translation>ATA-Fehler</translation>
+    </message>
+    <message>
+        <source>Abort the self-test under way</source>
+        <translation>Den laufenden Selbsttest abbrechen</translation>
+    </message>
+    <message>
+        <source>An extended self-test</source>
+        <translation>Ein ausführlicher Selbsttest</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>Ask the member drives for their identification and condition</source>
+        <translation>Die Laufwerke hinter den Controllern nach Kennung und Zustand fragen</translation>
     </message>
     <message>
         <source>CODE</source>
@@ -407,8 +462,20 @@
         <translation>BEFEHL</translation>
     </message>
     <message>
+        <source>Cache (the drive's own figure)</source>
+        <translation>Cache (Angabe des Laufwerks)</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Kapazität</translation>
+    </message>
+    <message>
         <source>Commands</source>
         <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>DRIVE</source>
+        <translation>LAUFWERK</translation>
     </message>
     <message>
         <source>Device %1, %2: %3</source>
@@ -431,6 +498,10 @@
         <translation>Den simulierten Rechner untersuchen, den diese Datei beschreibt</translation>
     </message>
     <message>
+        <source>Drive %1: self-test</source>
+        <translation>Laufwerk %1: Selbsttest</translation>
+    </message>
+    <message>
         <source>Duration</source>
         <translation>Dauer</translation>
     </message>
@@ -439,12 +510,28 @@
         <translation>Exklusiv</translation>
     </message>
     <message>
+        <source>Extended self-test</source>
+        <translation>Ausführlicher Selbsttest</translation>
+    </message>
+    <message>
         <source>FILE</source>
         <translation>DATEI</translation>
     </message>
     <message>
+        <source>Failure prediction (SMART)</source>
+        <translation>Ausfallvorhersage (SMART)</translation>
+    </message>
+    <message>
         <source>Finds RAID controllers and tests them.</source>
         <translation>Findet RAID-Controller und testet sie.</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>First failing LBA</source>
+        <translation>Erste fehlerhafte LBA</translation>
     </message>
     <message>
         <source>For the options of all commands see %1 --help</source>
@@ -455,16 +542,40 @@
         <translation>Gruppe</translation>
     </message>
     <message>
+        <source>Health</source>
+        <translation>Gesundheit</translation>
+    </message>
+    <message>
         <source>Id</source>
         <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Id of the drive, or DEVICE:DRIVE by their indexes</source>
+        <translation>Kennung des Laufwerks oder GERÄT:LAUFWERK nach ihren Nummern</translation>
     </message>
     <message>
         <source>Interrupted</source>
         <translation>Unterbrochen</translation>
     </message>
     <message>
+        <source>It broke off: %1</source>
+        <translation>Unerwartet beendet: %1</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etikett</translation>
+    </message>
+    <message>
         <source>Language of the texts, for example de</source>
         <translation>Sprache der Texte, zum Beispiel de</translation>
+    </message>
+    <message>
+        <source>Latest self-test</source>
+        <translation>Letzter Selbsttest</translation>
+    </message>
+    <message>
+        <source>Let a member drive test itself, or abort what it has begun</source>
+        <translation>Ein Laufwerk sich selbst testen lassen oder seinen Selbsttest abbrechen</translation>
     </message>
     <message>
         <source>List the RAID controllers with their disks</source>
@@ -477,6 +588,14 @@
     <message>
         <source>Logical disks</source>
         <translation>Logische Datenträger</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Medium</translation>
+    </message>
+    <message>
+        <source>NVMe drives offer no self-tests here</source>
+        <translation>NVMe-Laufwerke bieten hier keine Selbsttests</translation>
     </message>
     <message>
         <source>Name</source>
@@ -495,8 +614,20 @@
         <translation>Kein Gerät „%1“</translation>
     </message>
     <message>
+        <source>No drive "%1"</source>
+        <translation>Kein Laufwerk „%1“</translation>
+    </message>
+    <message>
+        <source>No identification (%1)</source>
+        <translation>Keine Kennung (%1)</translation>
+    </message>
+    <message>
         <source>No test "%1"</source>
         <translation>Kein Test „%1“</translation>
+    </message>
+    <message>
+        <source>Not asked</source>
+        <translation>Nicht gefragt</translation>
     </message>
     <message>
         <source>Nothing to test: no test applies.</source>
@@ -523,8 +654,16 @@
         <translation>Physische Datenträger</translation>
     </message>
     <message>
+        <source>Power mode</source>
+        <translation>Energiezustand</translation>
+    </message>
+    <message>
         <source>Print one JSON document</source>
         <translation>Ein JSON-Dokument ausgeben</translation>
+    </message>
+    <message>
+        <source>Remaining life</source>
+        <translation>Verbleibende Lebensdauer</translation>
     </message>
     <message>
         <source>Result: %1</source>
@@ -533,6 +672,38 @@
     <message>
         <source>Run tests: every test on every device, or those chosen</source>
         <translation>Tests ausführen: alle auf allen Geräten oder die ausgewählten</translation>
+    </message>
+    <message>
+        <source>SCSI status not good</source>
+        <translation>SCSI-Status nicht GOOD</translation>
+    </message>
+    <message>
+        <source>Sectors</source>
+        <translation>Sektoren</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>Self-tests</source>
+        <translation>Selbsttests</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>Several drives are called "%1"</source>
+        <translation>Mehrere Laufwerke heißen „%1“</translation>
+    </message>
+    <message>
+        <source>Short self-test</source>
+        <translation>Kurzer Selbsttest</translation>
+    </message>
+    <message>
+        <source>Show an X for each character of a serial number</source>
+        <translation>Für jedes Zeichen einer Seriennummer ein X zeigen</translation>
     </message>
     <message>
         <source>Show the version</source>
@@ -547,12 +718,28 @@
         <translation>Simulierte Rechner sind in dieser Installation nicht verfügbar: %1</translation>
     </message>
     <message>
+        <source>Standard version</source>
+        <translation>Version des Standards</translation>
+    </message>
+    <message>
+        <source>Standards</source>
+        <translation>Standards</translation>
+    </message>
+    <message>
         <source>TEST</source>
         <translation>TEST</translation>
     </message>
     <message>
         <source>Tell whether there is a RAID controller, without a scan</source>
         <translation>Sagen, ob es einen RAID-Controller gibt, ohne zu suchen</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>The controller did not tell all its drives (%1)</source>
+        <translation>Der Controller hat nicht alle Laufwerke genannt (%1)</translation>
     </message>
     <message>
         <source>The controller did not tell its logical disks (%1)</source>
@@ -571,12 +758,24 @@
         <translation>Das Gerät ist seit der Suche verschwunden</translation>
     </message>
     <message>
-        <source>The module could not start the test: %1</source>
-        <translation>Das Modul konnte den Test nicht starten: %1</translation>
+        <source>The drive does not tell how its self-test ended: %1</source>
+        <translation>Das Laufwerk sagt nicht, wie sein Selbsttest endete: %1</translation>
     </message>
     <message>
-        <source>The module did not run the test</source>
-        <translation>Das Modul hat den Test nicht ausgeführt</translation>
+        <source>The drive does not tell how its self-test goes: %1</source>
+        <translation>Das Laufwerk sagt nicht, wie weit sein Selbsttest ist: %1</translation>
+    </message>
+    <message>
+        <source>The drive was told to abort its self-test</source>
+        <translation>Dem Laufwerk wurde gesagt, seinen Selbsttest abzubrechen</translation>
+    </message>
+    <message>
+        <source>The module could not start it: %1</source>
+        <translation>Das Modul konnte nicht damit beginnen: %1</translation>
+    </message>
+    <message>
+        <source>The module did not run it</source>
+        <translation>Das Modul hat es nicht ausgeführt</translation>
     </message>
     <message>
         <source>The module lists test %1 but does not make it</source>
@@ -603,8 +802,20 @@
         <translation>Die Suche brach ab: Ihr Ende wurde nicht gemeldet</translation>
     </message>
     <message>
-        <source>The test broke off: %1</source>
-        <translation>Der Test brach ab: %1</translation>
+        <source>The self-test came to no verdict: %1</source>
+        <translation>Der Selbsttest kam zu keinem Ergebnis: %1</translation>
+    </message>
+    <message>
+        <source>The self-test could not be aborted: %1</source>
+        <translation>Der Selbsttest ließ sich nicht abbrechen: %1</translation>
+    </message>
+    <message>
+        <source>The self-test could not be started: %1</source>
+        <translation>Der Selbsttest ließ sich nicht starten: %1</translation>
+    </message>
+    <message>
+        <source>The self-test was aborted</source>
+        <translation>Der Selbsttest wurde abgebrochen</translation>
     </message>
     <message>
         <source>There is a RAID controller.</source>
@@ -619,6 +830,10 @@
         <translation>Diese Modulbibliothek statt der installierten verwenden</translation>
     </message>
     <message>
+        <source>Vendor</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
         <source>a folder</source>
         <translation>ein Ordner</translation>
     </message>
@@ -627,20 +842,76 @@
         <translation>eine Bibliothek ohne %1</translation>
     </message>
     <message>
+        <source>a segment failed</source>
+        <translation>ein Abschnitt ist fehlgeschlagen</translation>
+    </message>
+    <message>
         <source>aborted</source>
         <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>aborted by the host</source>
+        <translation>vom Host abgebrochen</translation>
+    </message>
+    <message>
+        <source>access denied</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message>
+        <source>active or idle</source>
+        <translation>aktiv oder im Leerlauf</translation>
+    </message>
+    <message>
+        <source>an element failed</source>
+        <translation>ein Element ist ausgefallen</translation>
     </message>
     <message>
         <source>an unknown error</source>
         <translation>ein unbekannter Fehler</translation>
     </message>
     <message>
+        <source>bad argument</source>
+        <translation>ungültiges Argument</translation>
+    </message>
+    <message>
+        <source>broken off by a fatal error</source>
+        <translation>durch einen schweren Fehler beendet</translation>
+    </message>
+    <message>
+        <source>command refused</source>
+        <translation>Befehl abgelehnt</translation>
+    </message>
+    <message>
+        <source>completed without error</source>
+        <translation>ohne Fehler beendet</translation>
+    </message>
+    <message>
+        <source>completed without error, or none so far</source>
+        <translation>ohne Fehler beendet, oder noch keiner</translation>
+    </message>
+    <message>
+        <source>conveyance</source>
+        <translation>Transport</translation>
+    </message>
+    <message>
         <source>degraded</source>
         <translation>beeinträchtigt</translation>
     </message>
     <message>
+        <source>device error</source>
+        <translation>Gerätefehler</translation>
+    </message>
+    <message>
         <source>device gone</source>
         <translation>Gerät verschwunden</translation>
+    </message>
+    <message>
+        <source>drive too large or sense data unknown</source>
+        <translation>Laufwerk zu groß oder Sense-Daten unbekannt</translation>
+    </message>
+    <message>
+        <source>drives</source>
+        <translation>Laufwerke</translation>
     </message>
     <message>
         <source>error</source>
@@ -660,12 +931,44 @@
         <translation>ausgefallenes Mitglied: %1</translation>
     </message>
     <message>
+        <source>failure predicted</source>
+        <translation>Ausfall vorhergesagt</translation>
+    </message>
+    <message>
+        <source>first failing LBA %1</source>
+        <translation>erste fehlerhafte LBA %1</translation>
+    </message>
+    <message>
+        <source>healthy</source>
+        <translation>gesund</translation>
+    </message>
+    <message>
         <source>id %1</source>
         <translation>Kennung %1</translation>
     </message>
     <message>
+        <source>idle</source>
+        <translation>Leerlauf</translation>
+    </message>
+    <message>
+        <source>in progress</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
         <source>info</source>
         <translation>Info</translation>
+    </message>
+    <message>
+        <source>interface error</source>
+        <translation>Schnittstellenfehler</translation>
+    </message>
+    <message>
+        <source>interrupted by a reset or the like</source>
+        <translation>durch einen Reset oder Ähnliches unterbrochen</translation>
+    </message>
+    <message>
+        <source>invalid data</source>
+        <translation>ungültige Daten</translation>
     </message>
     <message>
         <source>it keeps the device reserved</source>
@@ -676,16 +979,40 @@
         <translation>es entstand keins</translation>
     </message>
     <message>
+        <source>locked</source>
+        <translation>gesperrt</translation>
+    </message>
+    <message>
         <source>logical drive %1</source>
         <translation>logisches Laufwerk %1</translation>
+    </message>
+    <message>
+        <source>medium error</source>
+        <translation>Medienfehler</translation>
     </message>
     <message>
         <source>no</source>
         <translation>nein</translation>
     </message>
     <message>
+        <source>no data transferred</source>
+        <translation>keine Daten übertragen</translation>
+    </message>
+    <message>
         <source>no such file</source>
         <translation>keine solche Datei</translation>
+    </message>
+    <message>
+        <source>no usable answer</source>
+        <translation>keine brauchbare Antwort</translation>
+    </message>
+    <message>
+        <source>no vendor driver</source>
+        <translation>kein Treiber des Herstellers</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
     </message>
     <message>
         <source>none that can be loaded (%1)</source>
@@ -696,8 +1023,48 @@
         <translation>nicht anwendbar</translation>
     </message>
     <message>
+        <source>not available</source>
+        <translation>nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>not locked</source>
+        <translation>nicht gesperrt</translation>
+    </message>
+    <message>
+        <source>not reported</source>
+        <translation>nicht gemeldet</translation>
+    </message>
+    <message>
+        <source>not supported</source>
+        <translation>nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>not told (%1)</source>
+        <translation>nicht erfahren (%1)</translation>
+    </message>
+    <message>
+        <source>not with</source>
+        <translation>nicht mit</translation>
+    </message>
+    <message>
         <source>notice</source>
         <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>off-line data collection</source>
+        <translation>Datensammlung im Leerlauf</translation>
+    </message>
+    <message>
+        <source>off-line data collection ends at a command</source>
+        <translation>Datensammlung endet bei einem Befehl</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
     </message>
     <message>
         <source>one that could not start (%1)</source>
@@ -708,16 +1075,52 @@
         <translation>in Ordnung</translation>
     </message>
     <message>
+        <source>other</source>
+        <translation>anderer</translation>
+    </message>
+    <message>
         <source>passed</source>
         <translation>bestanden</translation>
+    </message>
+    <message>
+        <source>physically %1 bytes</source>
+        <translation>physisch %1 Byte</translation>
     </message>
     <message>
         <source>rebuilding</source>
         <translation>wird wiederhergestellt</translation>
     </message>
     <message>
+        <source>refused by the controller</source>
+        <translation>vom Controller abgelehnt</translation>
+    </message>
+    <message>
+        <source>request to the system failed</source>
+        <translation>Anfrage an das System fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>self-test not accepted</source>
+        <translation>Selbsttest nicht angenommen</translation>
+    </message>
+    <message>
+        <source>self-test not known</source>
+        <translation>Selbsttest nicht bekannt</translation>
+    </message>
+    <message>
         <source>serial number %1</source>
         <translation>Seriennummer %1</translation>
+    </message>
+    <message>
+        <source>short and extended</source>
+        <translation>kurz und ausführlich</translation>
+    </message>
+    <message>
+        <source>solid state</source>
+        <translation>Halbleiter</translation>
+    </message>
+    <message>
+        <source>standby</source>
+        <translation>Bereitschaft</translation>
     </message>
     <message>
         <source>state unknown</source>
@@ -726,6 +1129,26 @@
     <message>
         <source>status %1</source>
         <translation>Status %1</translation>
+    </message>
+    <message>
+        <source>success</source>
+        <translation>Erfolg</translation>
+    </message>
+    <message>
+        <source>suspected handling damage</source>
+        <translation>vermutlich durch Handhabung beschädigt</translation>
+    </message>
+    <message>
+        <source>the electrical element failed</source>
+        <translation>das elektrische Element ist ausgefallen</translation>
+    </message>
+    <message>
+        <source>the read element failed</source>
+        <translation>das Leseelement ist ausgefallen</translation>
+    </message>
+    <message>
+        <source>the servo or seek element failed</source>
+        <translation>das Servo- oder Suchelement ist ausgefallen</translation>
     </message>
     <message>
         <source>there are: %1</source>

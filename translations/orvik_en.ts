@@ -370,6 +370,18 @@
         <translation>%1 bytes</translation>
     </message>
     <message>
+        <source>%1 degrees Celsius</source>
+        <translation>%1 degrees Celsius</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%1 of %2 bytes</translation>
+    </message>
+    <message>
+        <source>%1 revolutions per minute</source>
+        <translation>%1 revolutions per minute</translation>
+    </message>
+    <message>
         <source>%1: expected a diagnostics module library, found %2</source>
         <translation>%1: expected a diagnostics module library, found %2</translation>
     </message>
@@ -378,6 +390,13 @@
         <translation>
             <numerusform>%n RAID controller</numerusform>
             <numerusform>%n RAID controllers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n drive(s)</source>
+        <translation>
+            <numerusform>%n drive</numerusform>
+            <numerusform>%n drives</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -395,8 +414,44 @@
         </translation>
     </message>
     <message>
+        <source>(required)</source>
+        <translation>(required)</translation>
+    </message>
+    <message>
         <source>(see %1 --help)</source>
         <translation>(see %1 --help)</translation>
+    </message>
+    <message>
+        <source>48-bit addresses</source>
+        <translation>48-bit addresses</translation>
+    </message>
+    <message>
+        <source>A self-test is under way already; --abort ends it</source>
+        <translation>A self-test is under way already; --abort ends it</translation>
+    </message>
+    <message>
+        <source>A short self-test; what is done without an option</source>
+        <translation>A short self-test; what is done without an option</translation>
+    </message>
+    <message>
+        <source>ATA error</source>
+        <translation>ATA error</translation>
+    </message>
+    <message>
+        <source>Abort the self-test under way</source>
+        <translation>Abort the self-test under way</translation>
+    </message>
+    <message>
+        <source>An extended self-test</source>
+        <translation>An extended self-test</translation>
+    </message>
+    <message>
+        <source>Arguments</source>
+        <translation>Arguments</translation>
+    </message>
+    <message>
+        <source>Ask the member drives for their identification and condition</source>
+        <translation>Ask the member drives for their identification and condition</translation>
     </message>
     <message>
         <source>CODE</source>
@@ -407,8 +462,20 @@
         <translation>COMMAND</translation>
     </message>
     <message>
+        <source>Cache (the drive's own figure)</source>
+        <translation>Cache (the drive's own figure)</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacity</translation>
+    </message>
+    <message>
         <source>Commands</source>
         <translation>Commands</translation>
+    </message>
+    <message>
+        <source>DRIVE</source>
+        <translation>DRIVE</translation>
     </message>
     <message>
         <source>Device %1, %2: %3</source>
@@ -431,6 +498,10 @@
         <translation>Diagnose the simulated machine that this file describes</translation>
     </message>
     <message>
+        <source>Drive %1: self-test</source>
+        <translation>Drive %1: self-test</translation>
+    </message>
+    <message>
         <source>Duration</source>
         <translation>Duration</translation>
     </message>
@@ -439,12 +510,28 @@
         <translation>Exclusive</translation>
     </message>
     <message>
+        <source>Extended self-test</source>
+        <translation>Extended self-test</translation>
+    </message>
+    <message>
         <source>FILE</source>
         <translation>FILE</translation>
     </message>
     <message>
+        <source>Failure prediction (SMART)</source>
+        <translation>Failure prediction (SMART)</translation>
+    </message>
+    <message>
         <source>Finds RAID controllers and tests them.</source>
         <translation>Finds RAID controllers and tests them.</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>First failing LBA</source>
+        <translation>First failing LBA</translation>
     </message>
     <message>
         <source>For the options of all commands see %1 --help</source>
@@ -455,16 +542,40 @@
         <translation>Group</translation>
     </message>
     <message>
+        <source>Health</source>
+        <translation>Health</translation>
+    </message>
+    <message>
         <source>Id</source>
         <translation>Id</translation>
+    </message>
+    <message>
+        <source>Id of the drive, or DEVICE:DRIVE by their indexes</source>
+        <translation>Id of the drive, or DEVICE:DRIVE by their indexes</translation>
     </message>
     <message>
         <source>Interrupted</source>
         <translation>Interrupted</translation>
     </message>
     <message>
+        <source>It broke off: %1</source>
+        <translation>It broke off: %1</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
         <source>Language of the texts, for example de</source>
         <translation>Language of the texts, for example de</translation>
+    </message>
+    <message>
+        <source>Latest self-test</source>
+        <translation>Latest self-test</translation>
+    </message>
+    <message>
+        <source>Let a member drive test itself, or abort what it has begun</source>
+        <translation>Let a member drive test itself, or abort what it has begun</translation>
     </message>
     <message>
         <source>List the RAID controllers with their disks</source>
@@ -477,6 +588,14 @@
     <message>
         <source>Logical disks</source>
         <translation>Logical disks</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Medium</translation>
+    </message>
+    <message>
+        <source>NVMe drives offer no self-tests here</source>
+        <translation>NVMe drives offer no self-tests here</translation>
     </message>
     <message>
         <source>Name</source>
@@ -495,8 +614,20 @@
         <translation>No device "%1"</translation>
     </message>
     <message>
+        <source>No drive "%1"</source>
+        <translation>No drive "%1"</translation>
+    </message>
+    <message>
+        <source>No identification (%1)</source>
+        <translation>No identification (%1)</translation>
+    </message>
+    <message>
         <source>No test "%1"</source>
         <translation>No test "%1"</translation>
+    </message>
+    <message>
+        <source>Not asked</source>
+        <translation>Not asked</translation>
     </message>
     <message>
         <source>Nothing to test: no test applies.</source>
@@ -523,8 +654,16 @@
         <translation>Physical disks</translation>
     </message>
     <message>
+        <source>Power mode</source>
+        <translation>Power mode</translation>
+    </message>
+    <message>
         <source>Print one JSON document</source>
         <translation>Print one JSON document</translation>
+    </message>
+    <message>
+        <source>Remaining life</source>
+        <translation>Remaining life</translation>
     </message>
     <message>
         <source>Result: %1</source>
@@ -533,6 +672,38 @@
     <message>
         <source>Run tests: every test on every device, or those chosen</source>
         <translation>Run tests: every test on every device, or those chosen</translation>
+    </message>
+    <message>
+        <source>SCSI status not good</source>
+        <translation>SCSI status not good</translation>
+    </message>
+    <message>
+        <source>Sectors</source>
+        <translation>Sectors</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Security</translation>
+    </message>
+    <message>
+        <source>Self-tests</source>
+        <translation>Self-tests</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Serial number</translation>
+    </message>
+    <message>
+        <source>Several drives are called "%1"</source>
+        <translation>Several drives are called "%1"</translation>
+    </message>
+    <message>
+        <source>Short self-test</source>
+        <translation>Short self-test</translation>
+    </message>
+    <message>
+        <source>Show an X for each character of a serial number</source>
+        <translation>Show an X for each character of a serial number</translation>
     </message>
     <message>
         <source>Show the version</source>
@@ -547,12 +718,28 @@
         <translation>Simulated machines are not available in this installation: %1</translation>
     </message>
     <message>
+        <source>Standard version</source>
+        <translation>Standard version</translation>
+    </message>
+    <message>
+        <source>Standards</source>
+        <translation>Standards</translation>
+    </message>
+    <message>
         <source>TEST</source>
         <translation>TEST</translation>
     </message>
     <message>
         <source>Tell whether there is a RAID controller, without a scan</source>
         <translation>Tell whether there is a RAID controller, without a scan</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperature</translation>
+    </message>
+    <message>
+        <source>The controller did not tell all its drives (%1)</source>
+        <translation>The controller did not tell all its drives (%1)</translation>
     </message>
     <message>
         <source>The controller did not tell its logical disks (%1)</source>
@@ -571,12 +758,24 @@
         <translation>The device has gone since the scan</translation>
     </message>
     <message>
-        <source>The module could not start the test: %1</source>
-        <translation>The module could not start the test: %1</translation>
+        <source>The drive does not tell how its self-test ended: %1</source>
+        <translation>The drive does not tell how its self-test ended: %1</translation>
     </message>
     <message>
-        <source>The module did not run the test</source>
-        <translation>The module did not run the test</translation>
+        <source>The drive does not tell how its self-test goes: %1</source>
+        <translation>The drive does not tell how its self-test goes: %1</translation>
+    </message>
+    <message>
+        <source>The drive was told to abort its self-test</source>
+        <translation>The drive was told to abort its self-test</translation>
+    </message>
+    <message>
+        <source>The module could not start it: %1</source>
+        <translation>The module could not start it: %1</translation>
+    </message>
+    <message>
+        <source>The module did not run it</source>
+        <translation>The module did not run it</translation>
     </message>
     <message>
         <source>The module lists test %1 but does not make it</source>
@@ -603,8 +802,20 @@
         <translation>The scan broke off: its end was not reported</translation>
     </message>
     <message>
-        <source>The test broke off: %1</source>
-        <translation>The test broke off: %1</translation>
+        <source>The self-test came to no verdict: %1</source>
+        <translation>The self-test came to no verdict: %1</translation>
+    </message>
+    <message>
+        <source>The self-test could not be aborted: %1</source>
+        <translation>The self-test could not be aborted: %1</translation>
+    </message>
+    <message>
+        <source>The self-test could not be started: %1</source>
+        <translation>The self-test could not be started: %1</translation>
+    </message>
+    <message>
+        <source>The self-test was aborted</source>
+        <translation>The self-test was aborted</translation>
     </message>
     <message>
         <source>There is a RAID controller.</source>
@@ -619,6 +830,10 @@
         <translation>Use this module library instead of the installed one</translation>
     </message>
     <message>
+        <source>Vendor</source>
+        <translation>Vendor</translation>
+    </message>
+    <message>
         <source>a folder</source>
         <translation>a folder</translation>
     </message>
@@ -627,20 +842,76 @@
         <translation>a library without %1</translation>
     </message>
     <message>
+        <source>a segment failed</source>
+        <translation>a segment failed</translation>
+    </message>
+    <message>
         <source>aborted</source>
         <translation>aborted</translation>
+    </message>
+    <message>
+        <source>aborted by the host</source>
+        <translation>aborted by the host</translation>
+    </message>
+    <message>
+        <source>access denied</source>
+        <translation>access denied</translation>
+    </message>
+    <message>
+        <source>active or idle</source>
+        <translation>active or idle</translation>
+    </message>
+    <message>
+        <source>an element failed</source>
+        <translation>an element failed</translation>
     </message>
     <message>
         <source>an unknown error</source>
         <translation>an unknown error</translation>
     </message>
     <message>
+        <source>bad argument</source>
+        <translation>bad argument</translation>
+    </message>
+    <message>
+        <source>broken off by a fatal error</source>
+        <translation>broken off by a fatal error</translation>
+    </message>
+    <message>
+        <source>command refused</source>
+        <translation>command refused</translation>
+    </message>
+    <message>
+        <source>completed without error</source>
+        <translation>completed without error</translation>
+    </message>
+    <message>
+        <source>completed without error, or none so far</source>
+        <translation>completed without error, or none so far</translation>
+    </message>
+    <message>
+        <source>conveyance</source>
+        <translation>conveyance</translation>
+    </message>
+    <message>
         <source>degraded</source>
         <translation>degraded</translation>
     </message>
     <message>
+        <source>device error</source>
+        <translation>device error</translation>
+    </message>
+    <message>
         <source>device gone</source>
         <translation>device gone</translation>
+    </message>
+    <message>
+        <source>drive too large or sense data unknown</source>
+        <translation>drive too large or sense data unknown</translation>
+    </message>
+    <message>
+        <source>drives</source>
+        <translation>drives</translation>
     </message>
     <message>
         <source>error</source>
@@ -660,12 +931,44 @@
         <translation>failed member: %1</translation>
     </message>
     <message>
+        <source>failure predicted</source>
+        <translation>failure predicted</translation>
+    </message>
+    <message>
+        <source>first failing LBA %1</source>
+        <translation>first failing LBA %1</translation>
+    </message>
+    <message>
+        <source>healthy</source>
+        <translation>healthy</translation>
+    </message>
+    <message>
         <source>id %1</source>
         <translation>id %1</translation>
     </message>
     <message>
+        <source>idle</source>
+        <translation>idle</translation>
+    </message>
+    <message>
+        <source>in progress</source>
+        <translation>in progress</translation>
+    </message>
+    <message>
         <source>info</source>
         <translation>info</translation>
+    </message>
+    <message>
+        <source>interface error</source>
+        <translation>interface error</translation>
+    </message>
+    <message>
+        <source>interrupted by a reset or the like</source>
+        <translation>interrupted by a reset or the like</translation>
+    </message>
+    <message>
+        <source>invalid data</source>
+        <translation>invalid data</translation>
     </message>
     <message>
         <source>it keeps the device reserved</source>
@@ -676,16 +979,40 @@
         <translation>it made none</translation>
     </message>
     <message>
+        <source>locked</source>
+        <translation>locked</translation>
+    </message>
+    <message>
         <source>logical drive %1</source>
         <translation>logical drive %1</translation>
+    </message>
+    <message>
+        <source>medium error</source>
+        <translation>medium error</translation>
     </message>
     <message>
         <source>no</source>
         <translation>no</translation>
     </message>
     <message>
+        <source>no data transferred</source>
+        <translation>no data transferred</translation>
+    </message>
+    <message>
         <source>no such file</source>
         <translation>no such file</translation>
+    </message>
+    <message>
+        <source>no usable answer</source>
+        <translation>no usable answer</translation>
+    </message>
+    <message>
+        <source>no vendor driver</source>
+        <translation>no vendor driver</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>none</translation>
     </message>
     <message>
         <source>none that can be loaded (%1)</source>
@@ -696,8 +1023,48 @@
         <translation>not applicable</translation>
     </message>
     <message>
+        <source>not available</source>
+        <translation>not available</translation>
+    </message>
+    <message>
+        <source>not locked</source>
+        <translation>not locked</translation>
+    </message>
+    <message>
+        <source>not reported</source>
+        <translation>not reported</translation>
+    </message>
+    <message>
+        <source>not supported</source>
+        <translation>not supported</translation>
+    </message>
+    <message>
+        <source>not told (%1)</source>
+        <translation>not told (%1)</translation>
+    </message>
+    <message>
+        <source>not with</source>
+        <translation>not with</translation>
+    </message>
+    <message>
         <source>notice</source>
         <translation>notice</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>off</translation>
+    </message>
+    <message>
+        <source>off-line data collection</source>
+        <translation>off-line data collection</translation>
+    </message>
+    <message>
+        <source>off-line data collection ends at a command</source>
+        <translation>off-line data collection ends at a command</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>on</translation>
     </message>
     <message>
         <source>one that could not start (%1)</source>
@@ -708,16 +1075,52 @@
         <translation>optimal</translation>
     </message>
     <message>
+        <source>other</source>
+        <translation>other</translation>
+    </message>
+    <message>
         <source>passed</source>
         <translation>passed</translation>
+    </message>
+    <message>
+        <source>physically %1 bytes</source>
+        <translation>physically %1 bytes</translation>
     </message>
     <message>
         <source>rebuilding</source>
         <translation>rebuilding</translation>
     </message>
     <message>
+        <source>refused by the controller</source>
+        <translation>refused by the controller</translation>
+    </message>
+    <message>
+        <source>request to the system failed</source>
+        <translation>request to the system failed</translation>
+    </message>
+    <message>
+        <source>self-test not accepted</source>
+        <translation>self-test not accepted</translation>
+    </message>
+    <message>
+        <source>self-test not known</source>
+        <translation>self-test not known</translation>
+    </message>
+    <message>
         <source>serial number %1</source>
         <translation>serial number %1</translation>
+    </message>
+    <message>
+        <source>short and extended</source>
+        <translation>short and extended</translation>
+    </message>
+    <message>
+        <source>solid state</source>
+        <translation>solid state</translation>
+    </message>
+    <message>
+        <source>standby</source>
+        <translation>standby</translation>
     </message>
     <message>
         <source>state unknown</source>
@@ -726,6 +1129,26 @@
     <message>
         <source>status %1</source>
         <translation>status %1</translation>
+    </message>
+    <message>
+        <source>success</source>
+        <translation>success</translation>
+    </message>
+    <message>
+        <source>suspected handling damage</source>
+        <translation>suspected handling damage</translation>
+    </message>
+    <message>
+        <source>the electrical element failed</source>
+        <translation>the electrical element failed</translation>
+    </message>
+    <message>
+        <source>the read element failed</source>
+        <translation>the read element failed</translation>
+    </message>
+    <message>
+        <source>the servo or seek element failed</source>
+        <translation>the servo or seek element failed</translation>
     </message>
     <message>
         <source>there are: %1</source>

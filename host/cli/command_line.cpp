@@ -14,6 +14,7 @@ struct GlobalOptions {
   std::string moduleFile;
   std::string language;
   bool json = false;
+  bool hideSerials = false;
 };
 
 CLI::Option* AddTextOption(CLI::App& app, const char* name, std::string& value, const QString& description) {
@@ -27,6 +28,9 @@ void DescribeHelp(CLI::App& app) {
   const auto formatter = app.get_formatter();
   formatter->label("Usage", QCoreApplication::translate("orvik-diag", "Usage").toStdString());
   formatter->label("OPTIONS", QCoreApplication::translate("orvik-diag", "OPTIONS").toStdString());
+  formatter->label("Positionals", QCoreApplication::translate("orvik-diag", "Arguments").toStdString());
+  formatter->label("REQUIRED", QCoreApplication::translate("orvik-diag", "(required)").toStdString());
+  formatter->label("Excludes", QCoreApplication::translate("orvik-diag", "not with").toStdString());
   formatter->label("SUBCOMMAND", QCoreApplication::translate("orvik-diag", "COMMAND").toStdString());
 }
 
@@ -43,6 +47,9 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& options) {
       ->type_name(file);
   app.add_flag("--json", options.json,
                QCoreApplication::translate("orvik-diag", "Print one JSON document").toStdString());
+  app.add_flag(
+      "--hide-serials", options.hideSerials,
+      QCoreApplication::translate("orvik-diag", "Show an X for each character of a serial number").toStdString());
   AddTextOption(app, "--lang", options.language,
                 QCoreApplication::translate("orvik-diag", "Language of the texts, for example de"))
       ->type_name(QCoreApplication::translate("orvik-diag", "CODE").toStdString());
@@ -99,6 +106,7 @@ ParsedCommandLine ParseCommandLine(const QStringList& arguments,
   if (request.command == nullptr) return Misused(QCoreApplication::translate("orvik-diag", "No command was given"));
   if (app.count("--machine") > 0) request.machineFile = QString::fromStdString(options.machineFile);
   request.moduleFile = QString::fromStdString(options.moduleFile);
+  request.hideSerials = options.hideSerials;
   return request;
 }
 

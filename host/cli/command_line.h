@@ -16,6 +16,7 @@ struct Request {
   Command* command = nullptr;  ///< among those that were offered to `ParseCommandLine`
   std::optional<QString> machineFile;
   QString moduleFile;  ///< empty: the installed one
+  bool hideSerials = false;
 };
 
 /// Text that the user asked for instead of a command: help or the version.

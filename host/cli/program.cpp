@@ -44,7 +44,8 @@ void Perform(const Request& request, const Translations& translations, Answer& a
     return;
   }
   answer.module = ModuleJson(library->Module());
-  answer.result = request.command->Execute({library->Module(), translations, InterruptFlag(), Palette::ForOutput()});
+  answer.result = request.command->Execute(
+      {library->Module(), translations, InterruptFlag(), Palette::ForOutput(), request.hideSerials});
 }
 
 Answer Perform(const Request& request, const Translations& translations) {

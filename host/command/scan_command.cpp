@@ -4,6 +4,7 @@
 #include "host/command/command.h"
 #include "host/inventory/controller_details.h"
 #include "host/inventory/device_list.h"
+#include "host/privacy/hide_serials.h"
 #include "host/report/device_json.h"
 #include "host/report/device_text.h"
 
@@ -21,12 +22,13 @@ class ScanCommand final : public Command {
   CommandResult Execute(const CommandContext& context) override {
     std::vector<ListedDevice> devices;
     QString error;
-    if (!ScanDevices(*context.module.GetDeviceScanner(), devices, error)) return CouldNotTell(error);
+    if (!FindDevices(context, devices, error)) return CouldNotTell(error);
 
     CommandResult result;
     QJsonArray json;
     for (const ListedDevice& device : devices) {
-      const ControllerDetails details = ReadControllerDetails(device);
+      ControllerDetails details = ReadControllerDetails(device);
+      if (context.hideSerials) HideSerials(details);
       json.append(DeviceJson(device, details));
       result.text += DeviceTree(device, details, context.palette) + u'\n';
       for (const QString& line : details.errors) {

@@ -4,6 +4,7 @@
 #include "host/command/command.h"
 #include "host/inventory/device_list.h"
 #include "host/inventory/test_list.h"
+#include "host/privacy/hide_serials.h"
 #include "host/report/device_json.h"
 #include "host/report/run_report.h"
 #include "host/run/run_plan.h"
@@ -22,18 +23,16 @@ class TestCommand final : public Command {
   }
 
   void AddOptions(CLI::App& options) override {
-    AddList(options, "--device", deviceNames_,
-            QCoreApplication::translate("orvik-diag", "Only devices with this id, or the one with this index"))
-        ->type_name(QCoreApplication::translate("orvik-diag", "DEVICE").toStdString());
-    AddList(options, "--only", testNames_,
-            QCoreApplication::translate("orvik-diag", "Only the test with this id, key or name"))
+    AddDeviceOption(options, deviceNames_);
+    AddListOption(options, "--only", testNames_,
+                  QCoreApplication::translate("orvik-diag", "Only the test with this id, key or name"))
         ->type_name(QCoreApplication::translate("orvik-diag", "TEST").toStdString());
   }
 
   CommandResult Execute(const CommandContext& context) override {
     std::vector<ListedDevice> devices;
     QString error;
-    if (!ScanDevices(*context.module.GetDeviceScanner(), devices, error)) return CouldNotTell(error);
+    if (!FindDevices(context, devices, error)) return CouldNotTell(error);
 
     CommandResult result;
     const std::vector<ListedTest> tests = ListTests(context.module, context.translations, result.errors);
@@ -43,23 +42,20 @@ class TestCommand final : public Command {
     const auto chosenTests = SelectTests(tests, testNames_, error);
     if (!chosenTests) return CouldNotTell(error);
 
-    RunList runs = PlanRuns(*chosenDevices, *chosenTests, context.abortFlag);
+    const TestRunList runs = PlanRuns(*chosenDevices, *chosenTests, context.abortFlag);
     {
       ProgressBars bars;
       RunScheduler(*context.module.GetDispatcher(), context.abortFlag, bars).Complete(runs);
+    }
+    if (context.hideSerials) {
+      for (const auto& run : runs) HideSerials(run->recorder.Messages());
     }
     Report(runs, devices, context.palette, result);
     return result;
   }
 
  private:
-  // One value each time the option is given, so that the option can stand before the subcommand's name.
-  static CLI::Option* AddList(CLI::App& options, const char* name, std::vector<std::string>& values,
-                              const QString& description) {
-    return options.add_option(name, values, description.toStdString())->expected(1, -1)->allow_extra_args(false);
-  }
-
-  static void Report(const RunList& runs, const std::vector<ListedDevice>& devices, const Palette& palette,
+  static void Report(const TestRunList& runs, const std::vector<ListedDevice>& devices, const Palette& palette,
                      CommandResult& result) {
     for (const auto& run : runs) {
       result.exitCode = Worse(result.exitCode, ExitCodeOf(run->outcome));

@@ -20,7 +20,7 @@ class TestsCommand final : public Command {
   CommandResult Execute(const CommandContext& context) override {
     std::vector<ListedDevice> devices;
     QString error;
-    if (!ScanDevices(*context.module.GetDeviceScanner(), devices, error)) return CouldNotTell(error);
+    if (!FindDevices(context, devices, error)) return CouldNotTell(error);
 
     CommandResult result;
     const std::vector<ListedTest> tests = ListTests(context.module, context.translations, result.errors);

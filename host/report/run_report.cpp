@@ -27,7 +27,7 @@ QJsonValue NumberOf(const std::optional<core::TestResult>& result) {
   return result ? QJsonValue(static_cast<int>(*result)) : QJsonValue(QJsonValue::Null);
 }
 
-QJsonObject RunJson(const Run& run) {
+QJsonObject RunJson(const TestRun& run) {
   const core::TestDescriptor& descriptor = run.test->test->Descriptor();
   QJsonArray messages;
   for (const core::TestMessage& message : run.recorder.Messages()) messages.append(MessageJson(message));
@@ -48,7 +48,7 @@ struct Count {
 };
 
 // One entry for every way a run can end that a reader should know of, in order of interest.
-std::vector<Count> CountOutcomes(const RunList& runs) {
+std::vector<Count> CountOutcomes(const TestRunList& runs) {
   using core::TestResult;
   std::vector<Count> counts;
   for (const TestResult result : {TestResult::Passed, TestResult::Warning, TestResult::Failed,
@@ -67,7 +67,7 @@ std::vector<Count> CountOutcomes(const RunList& runs) {
   return counts;
 }
 
-QString RunText(const Run& run, const Palette& palette) {
+QString RunText(const TestRun& run, const Palette& palette) {
   QString text = QStringLiteral("    %1\n").arg(palette.Paint(Colour::Bold, run.test->name));
   for (const core::TestMessage& message : run.recorder.Messages()) {
     const Word type = WordFor(message.type);
@@ -81,7 +81,7 @@ QString RunText(const Run& run, const Palette& palette) {
                              .arg(palette.Paint(result.colour, result.shown)));
 }
 
-QString SummaryText(const RunList& runs, const Palette& palette) {
+QString SummaryText(const TestRunList& runs, const Palette& palette) {
   if (runs.empty()) return QCoreApplication::translate("orvik-diag", "Nothing to test: no test applies.") + u'\n';
   QStringList parts;
   for (const Count& count : CountOutcomes(runs)) {
@@ -96,19 +96,19 @@ QString SummaryText(const RunList& runs, const Palette& palette) {
 
 }  // namespace
 
-QJsonArray RunsJson(const RunList& runs) {
+QJsonArray RunsJson(const TestRunList& runs) {
   QJsonArray array;
   for (const auto& run : runs) array.append(RunJson(*run));
   return array;
 }
 
-QJsonObject SummaryJson(const RunList& runs) {
+QJsonObject SummaryJson(const TestRunList& runs) {
   QJsonObject results;
   for (const Count& count : CountOutcomes(runs)) results[QLatin1String(count.word.stable)] = count.runs;
   return {{"runs", static_cast<qint64>(runs.size())}, {"results", results}};
 }
 
-QString RunsText(const RunList& runs, const Palette& palette) {
+QString RunsText(const TestRunList& runs, const Palette& palette) {
   QString text;
   const ListedDevice* device = nullptr;
   for (const auto& run : runs) {

@@ -5,18 +5,11 @@
 #include <algorithm>
 #include <set>
 
+#include "host/text/choices.h"
 #include "host/text/display_text.h"
 
 namespace orvik::host {
 namespace {
-
-QString Missing(const QString& problem, const std::string& name, const QStringList& available) {
-  const QString list =
-      available.isEmpty()
-          ? QCoreApplication::translate("orvik-diag", "there is none")
-          : QCoreApplication::translate("orvik-diag", "there are: %1").arg(available.join(QStringLiteral(", ")));
-  return QStringLiteral("%1; %2").arg(problem.arg(DisplayText(name)), list);
-}
 
 QString Missing(const std::vector<ListedDevice>& devices, const std::string& name) {
   QStringList available;
@@ -25,13 +18,13 @@ QString Missing(const std::vector<ListedDevice>& devices, const std::string& nam
                      .arg(QString::number(device.index), DisplayText(device.description.id),
                           DisplayText(device.description.name));
   }
-  return Missing(QCoreApplication::translate("orvik-diag", "No device \"%1\""), name, available);
+  return WithChoices(QCoreApplication::translate("orvik-diag", "No device \"%1\"").arg(DisplayText(name)), available);
 }
 
 QString Missing(const std::vector<ListedTest>& tests, const std::string& name) {
   QStringList available;
   for (const ListedTest& test : tests) available += QStringLiteral("%1 (%2)").arg(test.id).arg(test.name);
-  return Missing(QCoreApplication::translate("orvik-diag", "No test \"%1\""), name, available);
+  return WithChoices(QCoreApplication::translate("orvik-diag", "No test \"%1\"").arg(DisplayText(name)), available);
 }
 
 template <typename Item, typename Matches>
@@ -100,12 +93,12 @@ std::optional<std::vector<const ListedTest*>> SelectTests(const std::vector<List
   return InOrder(tests, chosen);
 }
 
-RunList PlanRuns(const std::vector<const ListedDevice*>& devices, const std::vector<const ListedTest*>& tests,
-                 const core::AbortFlag& abortFlag) {
-  RunList runs;
+TestRunList PlanRuns(const std::vector<const ListedDevice*>& devices, const std::vector<const ListedTest*>& tests,
+                     const core::AbortFlag& abortFlag) {
+  TestRunList runs;
   for (const ListedDevice* const device : devices) {
     for (const ListedTest* const test : tests) {
-      if (AppliesTo(*test, *device)) runs.push_back(std::make_unique<Run>(*device, *test, abortFlag));
+      if (AppliesTo(*test, *device)) runs.push_back(std::make_unique<TestRun>(*device, *test, abortFlag));
     }
   }
   return runs;

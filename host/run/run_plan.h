@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/run/run.h"
+#include "host/run/test_run.h"
 
 namespace orvik::host {
 
@@ -19,7 +19,7 @@ std::optional<std::vector<const ListedTest*>> SelectTests(const std::vector<List
                                                           const std::vector<std::string>& wanted, QString& error);
 
 /// A run for every test on every device that it applies to: device by device, in the order of the tests.
-RunList PlanRuns(const std::vector<const ListedDevice*>& devices, const std::vector<const ListedTest*>& tests,
-                 const core::AbortFlag& abortFlag);
+TestRunList PlanRuns(const std::vector<const ListedDevice*>& devices, const std::vector<const ListedTest*>& tests,
+                     const core::AbortFlag& abortFlag);
 
 }  // namespace orvik::host

@@ -19,6 +19,7 @@ class RunRecorder final : public core::RunReporter {
   /// 0 to 100; nothing before the first report.
   std::optional<int> Progress() const;
   const std::vector<core::TestMessage>& Messages() const { return messages_; }
+  std::vector<core::TestMessage>& Messages() { return messages_; }
 
  private:
   std::atomic<int> progress_{-1};

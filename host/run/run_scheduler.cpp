@@ -11,8 +11,7 @@ namespace {
 
 // Why the module's dispatcher could not be used.
 RunOutcome DispatcherProblem(const QString& cause) {
-  return {std::nullopt,
-          QCoreApplication::translate("orvik-diag", "The module could not start the test: %1").arg(cause)};
+  return {std::nullopt, QCoreApplication::translate("orvik-diag", "The module could not start it: %1").arg(cause)};
 }
 
 }  // namespace
@@ -28,11 +27,11 @@ RunScheduler::~RunScheduler() {
   finished_->Close();
 }
 
-void RunScheduler::Complete(RunList& runs) {
-  runs_ = &runs;
+void RunScheduler::CompleteAll(std::vector<Run*> runs) {
+  runs_ = std::move(runs);
   StartWhatCan();
   if (runningCount_ > 0) loop_.exec();
-  runs_ = nullptr;
+  runs_.clear();
 }
 
 bool RunScheduler::event(QEvent* event) {
@@ -45,10 +44,10 @@ bool RunScheduler::event(QEvent* event) {
 
 void RunScheduler::StartWhatCan() {
   std::set<const ListedDevice*> busy;
-  for (const auto& run : *runs_) {
+  for (Run* const run : runs_) {
     if (run->state == Run::State::Running) busy.insert(run->device);
   }
-  for (const auto& run : *runs_) {
+  for (Run* const run : runs_) {
     if (run->state != Run::State::Waiting) continue;
     if (abortFlag_.load() != 0) {
       EndUnstarted(*run, {core::TestResult::Aborted, {}});
@@ -61,7 +60,7 @@ void RunScheduler::StartWhatCan() {
   if (runningCount_ > 0) return;
 
   // Nothing is under way that could release a reservation, so whatever still waits would wait for ever.
-  for (const auto& run : *runs_) {
+  for (Run* const run : runs_) {
     if (run->state != Run::State::Waiting) continue;
     EndUnstarted(*run, DispatcherProblem(QCoreApplication::translate("orvik-diag", "it keeps the device reserved")));
   }

@@ -3,6 +3,8 @@
 #include <QEventLoop>
 #include <QObject>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "core/dispatcher.h"
 #include "core/test_run.h"
@@ -32,11 +34,18 @@ class RunScheduler final : public QObject {
   ~RunScheduler() override;
 
   /// Returns when every run has ended. Once the abort flag is set, runs that have not begun end as aborted.
-  void Complete(RunList& runs);
+  template <typename Kind>
+  void Complete(const std::vector<std::unique_ptr<Kind>>& runs) {
+    std::vector<Run*> all;
+    all.reserve(runs.size());
+    for (const auto& run : runs) all.push_back(run.get());
+    CompleteAll(std::move(all));
+  }
 
   bool event(QEvent* event) override;
 
  private:
+  void CompleteAll(std::vector<Run*> runs);
   void StartWhatCan();
   void TryStart(Run& run);
   void Finish(Run& run);
@@ -46,7 +55,7 @@ class RunScheduler final : public QObject {
   const core::AbortFlag& abortFlag_;
   RunObserver& observer_;
   std::shared_ptr<FinishedRuns> finished_;
-  RunList* runs_ = nullptr;
+  std::vector<Run*> runs_;
   int runningCount_ = 0;
   QEventLoop loop_;
 };

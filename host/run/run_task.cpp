@@ -10,13 +10,13 @@ namespace {
 RunOutcome Perform(Run& run) {
   QString cause;
   try {
-    return {run.test->test->Run(run.arguments), {}};
+    return {run.Perform(), {}};
   } catch (const std::exception& exception) {
     cause = QString::fromUtf8(exception.what()).simplified();
   } catch (...) {
     cause = QCoreApplication::translate("orvik-diag", "an unknown error");
   }
-  return {std::nullopt, QCoreApplication::translate("orvik-diag", "The test broke off: %1").arg(cause)};
+  return {std::nullopt, QCoreApplication::translate("orvik-diag", "It broke off: %1").arg(cause)};
 }
 
 }  // namespace
@@ -46,7 +46,7 @@ RunTask::RunTask(Run& run, std::shared_ptr<FinishedRuns> finished) : run_(&run),
 
 RunTask::~RunTask() {
   if (run_ == nullptr) return;
-  run_->outcome = {std::nullopt, QCoreApplication::translate("orvik-diag", "The module did not run the test")};
+  run_->outcome = {std::nullopt, QCoreApplication::translate("orvik-diag", "The module did not run it")};
   finished_->Put(*run_);
 }
 

@@ -34,7 +34,7 @@ class FinishedRuns {
   std::vector<Run*> runs_;
 };
 
-/// Runs one test on a worker of the module. Hands the run back exactly once, also when it is never executed.
+/// Performs one run on a worker of the module. Hands the run back exactly once, also when it is never executed.
 class RunTask final : public core::TaskInterface {
  public:
   RunTask(Run& run, std::shared_ptr<FinishedRuns> finished);

@@ -1,6 +1,5 @@
 #include "host/terminal/progress_bars.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 #include <chrono>
 
@@ -12,10 +11,6 @@ namespace {
 constexpr std::chrono::milliseconds kRedrawInterval(150);
 constexpr int kMostColumns = 100;
 constexpr int kPercentColumns = 6;  // " 100 %"
-
-QString NameOf(const Run& run) {
-  return QCoreApplication::translate("orvik-diag", "Device %1: %2").arg(run.device->index).arg(run.test->name);
-}
 
 }  // namespace
 
@@ -62,7 +57,7 @@ void ProgressBars::Redraw() {
   const int columns = std::min(size.columns - 1, kMostColumns);
   for (int line = 0; line < lines; ++line) {
     const Run& run = *runs_[static_cast<std::size_t>(line)];
-    frame += ProgressLine(NameOf(run), run.recorder.Progress().value_or(0), columns) + QLatin1Char('\n');
+    frame += ProgressLine(run.Name(), run.recorder.Progress().value_or(0), columns) + QLatin1Char('\n');
   }
   drawnLines_ = lines;
   Write(Stream::Error, frame.toUtf8());

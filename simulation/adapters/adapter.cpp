@@ -23,20 +23,26 @@ std::uint32_t CheckHeader(std::span<const std::uint8_t> buffer, std::size_t inpu
 
 }  // namespace
 
-Adapter::Adapter(AdapterDescription description) : description_(std::move(description)) {
-  if (description_.csmi) csmi_ = std::make_unique<CsmiController>(*description_.csmi);
+Adapter::Adapter(AdapterDescription description, const std::shared_ptr<const Clock>& clock)
+    : description_(std::move(description)) {
+  if (description_.csmi) csmi_ = std::make_unique<CsmiController>(*description_.csmi, clock);
 }
 
 std::string_view Adapter::PacketName(std::uint32_t controlCode, std::span<const std::uint8_t> buffer) const {
-  return controlCode == kIoctlScsiMiniport ? CsmiController::PacketName(buffer) : std::string_view();
+  if (controlCode != kIoctlScsiMiniport) return {};
+  return NvmePaths::Recognises(buffer) ? kNvmePassThroughName : CsmiController::PacketName(buffer);
 }
 
 IoResult Adapter::Control(std::uint32_t controlCode, std::span<std::uint8_t> buffer, std::size_t inputSize,
                           std::size_t outputSize) {
   if (controlCode != kIoctlScsiMiniport) return {.error = kErrorInvalidFunction};
   if (const std::uint32_t error = CheckHeader(buffer, inputSize, outputSize); error != 0) return {.error = error};
-  if (csmi_ == nullptr || !CsmiController::Recognises(buffer)) return {.error = kErrorInvalidFunction};
+  if (csmi_ == nullptr) return {.error = kErrorInvalidFunction};
   const std::size_t size = srb_io_control::kSize + Get(buffer, srb_io_control::kLength);
+  if (NvmePaths::Recognises(buffer)) {
+    return {.error = csmi_->Nvme().Answer(buffer.first(size)), .returned = size};
+  }
+  if (!CsmiController::Recognises(buffer)) return {.error = kErrorInvalidFunction};
   csmi_->Answer(buffer.first(size));
   return {.returned = size};
 }

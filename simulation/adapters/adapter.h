@@ -15,7 +15,7 @@ namespace orvik::simulation {
 
 class Adapter : public IoDevice {
  public:
-  explicit Adapter(AdapterDescription description);
+  Adapter(AdapterDescription description, const std::shared_ptr<const Clock>& clock);
 
   const AdapterDescription& Description() const { return description_; }
   /// Null when the adapter has no CSMI controller.

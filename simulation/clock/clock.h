@@ -17,6 +17,8 @@ class Clock {
   std::uint64_t Milliseconds() const;
   /// Lets `milliseconds` of machine time pass at once.
   void Advance(std::uint64_t milliseconds) { advanced_ += milliseconds; }
+  /// Returns when `milliseconds` of machine time have passed.
+  void Wait(std::uint64_t milliseconds) const;
 
  private:
   std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();

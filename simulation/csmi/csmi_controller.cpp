@@ -21,17 +21,22 @@ std::string Signature(std::span<const std::uint8_t> packet) {
   return {bytes.begin(), std::ranges::find(bytes, 0)};
 }
 
-std::vector<Drive> MakeDrives(const std::vector<DriveDescription>& descriptions) {
+std::vector<Drive> MakeDrives(const std::vector<DriveDescription>& descriptions,
+                              const std::shared_ptr<const Clock>& clock) {
   std::vector<Drive> drives;
   drives.reserve(descriptions.size());
-  for (const DriveDescription& description : descriptions) drives.push_back(MakeDrive(description));
+  for (const DriveDescription& description : descriptions) drives.push_back(MakeDrive(description, clock));
   return drives;
 }
 
 }  // namespace
 
-CsmiController::CsmiController(const CsmiControllerDescription& description)
-    : description_(description), drives_(MakeDrives(description.drives)), phys_(description_, drives_) {
+CsmiController::CsmiController(const CsmiControllerDescription& description,
+                               const std::shared_ptr<const Clock>& clock)
+    : description_(description),
+      drives_(MakeDrives(description.drives, clock)),
+      phys_(description_, drives_),
+      nvmePaths_(description_.drives, drives_) {
   for (const CsmiRaidSetDescription& set : description_.raidSets) {
     for (const CsmiRaidMemberDescription& member : set.members) {
       if (member.drive) static_cast<void>(drives_.at(*member.drive));

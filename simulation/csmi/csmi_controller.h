@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <mutex>
 #include <span>
 #include <string_view>
@@ -11,6 +12,7 @@
 
 #include "simulation/csmi/csmi_description.h"
 #include "simulation/csmi/csmi_phys.h"
+#include "simulation/csmi/nvme_paths.h"
 #include "simulation/drives/drive.h"
 
 namespace orvik::simulation {
@@ -19,7 +21,8 @@ namespace orvik::simulation {
 class CsmiController {
  public:
   /// Throws std::out_of_range when a phy or RAID member names a drive that is not in the list.
-  explicit CsmiController(const CsmiControllerDescription& description);
+  explicit CsmiController(const CsmiControllerDescription& description,
+                          const std::shared_ptr<const Clock>& clock = std::make_shared<const Clock>(1));
 
   /// The name of the packet with this header ("CC_CSMI_SAS_GET_PHY_INFO"); empty when it is none of this interface.
   static std::string_view PacketName(std::span<const std::uint8_t> packet);
@@ -30,6 +33,8 @@ class CsmiController {
 
   /// Executes `packet` (header included) in place and sets its ReturnCode.
   void Answer(std::span<std::uint8_t> packet);
+  /// The NVMe drives, which have requests of their own.
+  const NvmePaths& Nvme() const { return nvmePaths_; }
 
   void SetStatus(CsmiStatus status, CsmiOfflineReason reason);
   const std::vector<Drive>& Drives() const { return drives_; }
@@ -60,6 +65,7 @@ class CsmiController {
   CsmiControllerDescription description_;
   std::vector<Drive> drives_;
   CsmiPhys phys_;
+  NvmePaths nvmePaths_;
   std::mutex mutex_;  // guards the status and its reason in `description_`
 };
 

@@ -22,9 +22,12 @@ constexpr std::uint8_t kSenseData = 2;
 constexpr std::uint32_t kLinkUpAt6Gbit = 0x133;
 constexpr std::uint32_t kNoPowerTransitions = 0x300;
 
-// The part of the packet that the drive reads or fills; empty for a command without data.
-std::span<std::uint8_t> DataArea(std::span<std::uint8_t> packet, Block area, std::uint32_t flags) {
-  if ((flags & (pass_through::kRead | pass_through::kWrite)) == 0) return {};
+// The part of the packet that the drive reads or fills. Nothing moves when the request has the data go another way
+// than the command does.
+std::span<std::uint8_t> DataArea(std::span<std::uint8_t> packet, Block area, std::uint32_t flags,
+                                 DataDirection direction) {
+  const std::uint32_t wanted = direction == DataDirection::In ? pass_through::kRead : pass_through::kWrite;
+  if (direction == DataDirection::None || (flags & wanted) == 0) return {};
   return Inside(packet, area);
 }
 
@@ -55,7 +58,8 @@ std::uint32_t CsmiController::SspPassThrough(std::span<std::uint8_t> packet) {
   std::optional<ScsiCompletion> completion;
   if (drive != nullptr) {
     const auto cdb = Inside(packet, {ssp_pass_through::kCdb.offset, cdbLength});
-    completion = (*drive)->Execute(cdb, DataArea(packet, area, Get(packet, ssp_pass_through::kFlags)));
+    const std::uint32_t flags = Get(packet, ssp_pass_through::kFlags);
+    completion = (*drive)->Execute(cdb, DataArea(packet, area, flags, ScsiDrive::DirectionOf(cdb)));
   }
   if (!completion) {
     Set(packet, ssp_pass_through::kConnectionStatus,
@@ -80,7 +84,9 @@ std::uint32_t CsmiController::StpPassThrough(std::span<std::uint8_t> packet) {
     Set(packet, stp_pass_through::kConnectionStatus, kOpenRejectProtocolNotSupported);
     return kCsmiNoSataDevice;
   }
-  const auto completion = (*drive)->Execute(*command, DataArea(packet, area, Get(packet, stp_pass_through::kFlags)));
+  const std::uint32_t flags = Get(packet, stp_pass_through::kFlags);
+  const auto data = DataArea(packet, area, flags, AtaDrive::DirectionOf(*command));
+  const auto completion = (*drive)->Execute(*command, data);
   if (!completion) {
     Set(packet, stp_pass_through::kConnectionStatus, kOpenRejectNoDestination);
     return kCsmiConnectionFailed;

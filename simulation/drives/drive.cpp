@@ -4,14 +4,14 @@ namespace orvik::simulation {
 
 namespace {
 
-Drive Make(const SataDriveDescription& description) {
-  return std::make_shared<AtaDrive>(description);
+Drive Make(const SataDriveDescription& description, const std::shared_ptr<const Clock>& clock) {
+  return std::make_shared<AtaDrive>(description, clock);
 }
-Drive Make(const SasDriveDescription& description) {
-  return std::make_shared<ScsiDrive>(description);
+Drive Make(const SasDriveDescription& description, const std::shared_ptr<const Clock>& clock) {
+  return std::make_shared<ScsiDrive>(description, clock);
 }
-Drive Make(const NvmeDriveDescription& description) {
-  return std::make_shared<NvmeDrive>(description);
+Drive Make(const NvmeDriveDescription& description, const std::shared_ptr<const Clock>& clock) {
+  return std::make_shared<NvmeDrive>(description, clock);
 }
 
 template <typename Description>
@@ -28,8 +28,8 @@ DriveIdentity Identity(const SasDriveDescription& drive) {
 
 }  // namespace
 
-Drive MakeDrive(const DriveDescription& description) {
-  return std::visit([](const auto& kind) { return Make(kind); }, description);
+Drive MakeDrive(const DriveDescription& description, const std::shared_ptr<const Clock>& clock) {
+  return std::visit([&clock](const auto& kind) { return Make(kind, clock); }, description);
 }
 
 DriveIdentity IdentityOf(const Drive& drive) {

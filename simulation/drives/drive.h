@@ -4,10 +4,10 @@
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
 #include <variant>
 
+#include "simulation/clock/clock.h"
 #include "simulation/drives/ata/ata_drive.h"
 #include "simulation/drives/drive_descriptions.h"
 #include "simulation/drives/nvme/nvme_drive.h"
@@ -17,7 +17,8 @@ namespace orvik::simulation {
 
 using Drive = std::variant<std::shared_ptr<AtaDrive>, std::shared_ptr<ScsiDrive>, std::shared_ptr<NvmeDrive>>;
 
-Drive MakeDrive(const DriveDescription& description);
+/// `clock`: the time by which the drive's self-tests run.
+Drive MakeDrive(const DriveDescription& description, const std::shared_ptr<const Clock>& clock);
 
 /// What a controller notes about a drive when it finds it.
 struct DriveIdentity {

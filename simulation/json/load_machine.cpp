@@ -42,7 +42,7 @@ std::optional<MachineDescription> Describe(const std::string& path, Complaint& c
 }  // namespace
 
 std::variant<std::shared_ptr<Machine>, std::string> LoadMachine(const std::string& path) {
-  Complaint complaint;
+  Complaint complaint(path);
   const auto description = Describe(path, complaint);
   if (!description) return path + ": " + complaint.Text();
   return std::make_shared<Machine>(*description);

@@ -1,5 +1,8 @@
 #include "simulation/json/node.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 #include <charconv>
 #include <utility>
@@ -124,6 +127,26 @@ void Node::ReadBytes(std::vector<std::uint8_t>& bytes) const {
   for (std::size_t i = 0; i < text.size(); i += 2) {
     bytes.push_back(HexNumber<std::uint8_t>(std::string_view(text).substr(i, 2)));
   }
+}
+
+void Node::ReadFile(std::vector<std::uint8_t>& bytes, std::size_t least, std::size_t most) const {
+  std::string name;
+  Read(name);
+  if (name.empty()) return Reject("the name of a file");
+  const QString document = QString::fromStdString(complaint_->DocumentPath());
+  QFile file(QFileInfo(document).dir().filePath(QString::fromStdString(name)));
+  if (!file.open(QIODevice::ReadOnly)) {
+    return Reject("a readable file", "\"" + name + "\": " + file.errorString().toStdString());
+  }
+  // One byte more than allowed tells a file that is too large.
+  const QByteArray content = file.read(static_cast<qint64>(most) + 1);
+  const auto size = static_cast<std::size_t>(content.size());
+  if (size < least || size > most) {
+    const std::string range = least == most ? "" : std::to_string(least) + " to ";
+    return Reject("a file of " + range + std::to_string(most) + " bytes",
+                  "\"" + name + "\" of " + std::to_string(file.size()) + " bytes");
+  }
+  bytes.assign(content.begin(), content.end());
 }
 
 QJsonObject Node::Object() const {

@@ -24,12 +24,17 @@ namespace orvik::simulation {
 /// The first thing that is wrong with a document.
 class Complaint {
  public:
+  /// `documentPath`: where the document is, for the files that it names.
+  explicit Complaint(std::string documentPath) : documentPath_(std::move(documentPath)) {}
+
+  const std::string& DocumentPath() const { return documentPath_; }
   void Add(const std::string& place, const std::string& expected, const std::string& found);
   bool Made() const { return !text_.empty(); }
   /// "<place>: expected <expected>, found <found>".
   const std::string& Text() const { return text_; }
 
  private:
+  std::string documentPath_;
   std::string text_;
 };
 
@@ -70,6 +75,8 @@ class Node {
   void ReadHex(std::uint64_t& number, std::size_t digits) const;
   /// Bytes written as pairs of hexadecimal digits in a text.
   void ReadBytes(std::vector<std::uint8_t>& bytes) const;
+  /// The bytes of a file, named relative to the document, of a size within the limits.
+  void ReadFile(std::vector<std::uint8_t>& bytes, std::size_t least, std::size_t most) const;
 
   template <typename Value, typename... Limits>
   void Read(std::optional<Value>& target, Limits... limits) const {

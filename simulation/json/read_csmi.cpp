@@ -1,3 +1,4 @@
+#include "simulation/csmi/nvme_paths.h"
 #include "simulation/json/object_reader.h"
 #include "simulation/json/readers.h"
 
@@ -103,6 +104,16 @@ void ReadRevision(const Node& node, std::array<std::uint16_t, 4>& revision) {
   if (node.IsList() && count != revision.size()) node.Reject("a list of 4 numbers");
 }
 
+DriveDescription ReadMemberDrive(const Node& node, const std::vector<DriveDescription>& before) {
+  DriveDescription drive = ReadDrive(node);
+  const auto pathId = NvmePathId(drive, before);
+  for (std::size_t i = 0; pathId && i < before.size(); ++i) {
+    if (NvmePathId(before[i], std::span(before).first(i)) != pathId) continue;
+    node.Reject("a drive with a path id of its own", "the path id " + std::to_string(*pathId) + " again");
+  }
+  return drive;
+}
+
 CsmiPhyDescription ReadPhy(const Node& node, const std::vector<DriveDescription>& drives) {
   CsmiPhyDescription phy;
   ObjectReader object(node);
@@ -166,7 +177,7 @@ CsmiControllerDescription ReadCsmiController(const Node& node) {
   controller.boardId = static_cast<std::uint32_t>(boardId);
   ReadRevision(object.Optional("revision"), controller.revision);
   object.Optional("sasAddress").ReadHex(controller.sasAddress, 16);
-  object.Optional("drives").ForEach([&](const Node& each) { drives.push_back(ReadDrive(each)); });
+  object.Optional("drives").ForEach([&](const Node& each) { drives.push_back(ReadMemberDrive(each, drives)); });
   object.Optional("phys").ForEach([&](const Node& each) { controller.phys.push_back(ReadPhy(each, drives)); },
                                   kMostPhys);
   object.Optional("raidSets").ForEach([&](const Node& each) {

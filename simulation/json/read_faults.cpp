@@ -4,6 +4,7 @@
 #include "simulation/faults/fault_book.h"
 #include "simulation/json/object_reader.h"
 #include "simulation/json/readers.h"
+#include "simulation/physical/physical_drive.h"
 
 namespace orvik::simulation {
 
@@ -12,8 +13,13 @@ namespace {
 // Functions that can be made to fail by name but that "*" leaves alone.
 constexpr std::array<std::string_view, 2> kByNameOnly = {"LoadLibraryW", "SetThreadAffinityMask"};
 
+// Packets with a header that has a ReturnCode.
+bool CarriesReturnCode(std::string_view operation) {
+  return operation == "DeviceIoControl" || operation == kNvmePassThroughName || CsmiController::HasPacket(operation);
+}
+
 bool CarriesPackets(std::string_view operation) {
-  return operation == "DeviceIoControl" || CsmiController::HasPacket(operation);
+  return CarriesReturnCode(operation) || PhysicalDrive::HasRequest(operation);
 }
 
 bool IsKnown(std::string_view operation) {
@@ -47,8 +53,8 @@ FaultRule ReadFault(const Node& node) {
   }
   object.Optional("call").Read(fault.call, std::uint64_t{1}, std::numeric_limits<std::uint64_t>::max());
   object.Optional("error").Read(effects.error);
+  if (CarriesReturnCode(fault.operation)) object.Optional("returnCode").Read(effects.returnCode);
   if (CarriesPackets(fault.operation)) {
-    object.Optional("returnCode").Read(effects.returnCode);
     object.Optional("garble").Read(effects.garbleSeed);
     object.Optional("patch").ForEach([&](const Node& each) { effects.patches.push_back(ReadPatch(each)); });
     object.Optional("truncate").Read(effects.truncateTo);

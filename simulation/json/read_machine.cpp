@@ -61,6 +61,9 @@ MachineDescription ReadMachine(const Node& node) {
   object.Required("name", "a text").Read(machine.name);
   object.Optional("speed").Read(machine.speed, kSlowest, kFastest);
   object.Optional("adapters").ForEach([&](const Node& each) { machine.adapters.push_back(ReadAdapter(each)); });
+  object.Optional("physicalDrives").ForEach([&](const Node& each) {
+    machine.physicalDrives.push_back(ReadPhysicalDrive(each));
+  });
   object.Optional("registry").ForEach([&](const Node& each) { machine.registry.push_back(ReadRegistryValue(each)); });
   object.Optional("faults").ForEach([&](const Node& each) { machine.faults.push_back(ReadFault(each)); });
   object.End();

@@ -13,6 +13,7 @@ namespace orvik::simulation {
 MachineDescription ReadMachine(const Node& node);
 CsmiControllerDescription ReadCsmiController(const Node& node);
 DriveDescription ReadDrive(const Node& node);
+PhysicalDriveDescription ReadPhysicalDrive(const Node& node);
 FaultRule ReadFault(const Node& node);
 
 }  // namespace orvik::simulation

@@ -8,10 +8,14 @@
 
 namespace orvik::simulation {
 
-Machine::Machine(const MachineDescription& description) : name_(description.name), clock_(description.speed) {
+Machine::Machine(const MachineDescription& description)
+    : name_(description.name), clock_(std::make_shared<simulation::Clock>(description.speed)) {
   for (const AdapterDescription& adapter : description.adapters) {
-    adapters_.push_back(std::make_shared<Adapter>(adapter));
+    adapters_.push_back(std::make_shared<Adapter>(adapter, clock_));
     RegisterDriver(adapter);
+  }
+  for (const PhysicalDriveDescription& drive : description.physicalDrives) {
+    physicalDrives_.push_back(std::make_shared<PhysicalDrive>(drive, clock_));
   }
   for (const RegistryValue& value : description.registry) registry_.Set(value);
   for (const FaultRule& fault : description.faults) faults_.Add(fault);
@@ -34,6 +38,9 @@ std::shared_ptr<IoDevice> Machine::Find(std::string_view fileName) const {
     if (std::ranges::any_of(interfaces, [&](const auto& each) { return FoldCase(each.path) == wanted; })) {
       return adapter;
     }
+  }
+  for (std::size_t i = 0; i < physicalDrives_.size(); ++i) {
+    if (FoldCase(R"(\\.\PhysicalDrive)" + std::to_string(i)) == wanted) return physicalDrives_[i];
   }
   return nullptr;
 }

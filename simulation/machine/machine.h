@@ -15,6 +15,7 @@
 #include "simulation/ledger/ledger.h"
 #include "simulation/machine/io_device.h"
 #include "simulation/machine/machine_description.h"
+#include "simulation/physical/physical_drive.h"
 #include "simulation/registry/registry.h"
 
 namespace orvik::simulation {
@@ -29,10 +30,11 @@ class Machine {
 
   const std::string& Name() const { return name_; }
   const std::vector<std::shared_ptr<Adapter>>& Adapters() const { return adapters_; }
+  const std::vector<std::shared_ptr<PhysicalDrive>>& PhysicalDrives() const { return physicalDrives_; }
   simulation::Registry& Registry() { return registry_; }
   FaultBook& Faults() { return faults_; }
   simulation::Ledger& Ledger() { return ledger_; }
-  simulation::Clock& Clock() { return clock_; }
+  simulation::Clock& Clock() { return *clock_; }
 
   /// The device that a file name leads to, letters of either case; null when it leads nowhere.
   std::shared_ptr<IoDevice> Find(std::string_view fileName) const;
@@ -44,11 +46,13 @@ class Machine {
   void RegisterDriver(const AdapterDescription& adapter);
 
   std::string name_;
+  // Shared with the drives, which an open file may keep.
+  std::shared_ptr<simulation::Clock> clock_;
   std::vector<std::shared_ptr<Adapter>> adapters_;
+  std::vector<std::shared_ptr<PhysicalDrive>> physicalDrives_;
   simulation::Registry registry_;
   FaultBook faults_;
   simulation::Ledger ledger_;
-  simulation::Clock clock_;
 };
 
 }  // namespace orvik::simulation

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "simulation/adapters/adapter_description.h"
+#include "simulation/drives/drive_descriptions.h"
 #include "simulation/faults/fault.h"
 #include "simulation/registry/registry.h"
 
@@ -15,6 +16,8 @@ struct MachineDescription {
   /// Machine time per real time.
   double speed = 1;
   std::vector<AdapterDescription> adapters{};
+  /// `\\.\PhysicalDrive0` and those that follow it.
+  std::vector<PhysicalDriveDescription> physicalDrives{};
   std::vector<RegistryValue> registry{};
   std::vector<FaultRule> faults{};
 };

@@ -108,7 +108,7 @@ TEST_F(CommandTest, RunsKeepTheirMessagesInOrder) {
   const QJsonArray messages = runs[1].toObject()["messages"].toArray();
   EXPECT_EQ(messages[0].toObject()["translated"].toString(), "Logical drive is degraded: 7");
   EXPECT_EQ(messages[1].toObject()["key"].toString(), "DRIVE_DOWN");
-  EXPECT_EQ(messages[1].toObject()["value"].toString(), u"DISK B\uFFFD");
+  EXPECT_EQ(messages[1].toObject()["value"].toString(), u"DISK B - S2\uFFFD");
   EXPECT_EQ(runs[2].toObject()["result"].toObject()["number"].toInt(), 3);
   EXPECT_EQ(runs[2].toObject()["progress"].toInt(), 100);
   EXPECT_EQ(document["summary"].toObject()["results"].toObject()["failed"].toInt(), 1);
@@ -125,7 +125,7 @@ TEST_F(CommandTest, BrokenOffTestIsAnErrorOfItsRunOnly) {
   host_.SetEnvironment("FAKE_TESTS", "5,1");
   const QJsonArray runs = Document({"test"}, 3)["runs"].toArray();
   ASSERT_EQ(runs.size(), 4);
-  EXPECT_EQ(runs[0].toObject()["error"].toString(), "The test broke off: out of luck");
+  EXPECT_EQ(runs[0].toObject()["error"].toString(), "It broke off: out of luck");
   EXPECT_EQ(runs[1].toObject()["result"].toObject()["word"].toString(), "passed");
 }
 

@@ -61,7 +61,17 @@ class FakeDevice final : public module::raid::RaidDevice {
     return 0;
   }
 
-  std::uint32_t GetStorageDevices(std::vector<StorageDeviceEntry>& /*devices*/) override { return 0; }
+  std::uint32_t GetStorageDevices(std::vector<StorageDeviceEntry>& devices) override {
+    if (id_ == "A77F") {
+      devices.push_back({"d-0", DriveProtocol::Ata, MakeFakeDrive(FakeDrive::Ata), nullptr});
+      devices.push_back({"d-1", DriveProtocol::Scsi, MakeFakeDrive(FakeDrive::Silent), nullptr});
+      devices.push_back({"d-2", DriveProtocol::Nvme, MakeFakeDrive(FakeDrive::Nvme), nullptr});
+    } else {
+      devices.push_back({"d-0", DriveProtocol::Ata, MakeFakeDrive(FakeDrive::Scsi), MakeFakeDrive(FakeDrive::Ata)});
+      devices.push_back({"d-4", DriveProtocol::Scsi, MakeFakeDrive(FakeDrive::Scsi), nullptr});
+    }
+    return IsInMood("slots-fail") ? kSlotStatus : 0;
+  }
 
  private:
   std::string id_;

@@ -10,11 +10,6 @@
 namespace orvik::tests {
 namespace {
 
-std::string Environment(const char* name) {
-  const char* const value = std::getenv(name);
-  return value == nullptr ? std::string() : std::string(value);
-}
-
 class FakeModule final : public core::Module {
  public:
   std::unique_ptr<core::Test> CreateTest(core::TestId id) const override { return MakeFakeTest(id); }
@@ -42,6 +37,11 @@ class FakeModule final : public core::Module {
 };
 
 }  // namespace
+
+std::string Environment(const char* name) {
+  const char* const value = std::getenv(name);
+  return value == nullptr ? std::string() : std::string(value);
+}
 
 bool IsInMood(const char* word) {
   std::istringstream words(Environment(kMoodEnvironment));

@@ -4,6 +4,7 @@
 
 #include "core/dispatcher.h"
 #include "core/module.h"
+#include "module/storage/protocol.h"
 
 // A small module to load into the host: two devices, tests for every way a run can end, and a log of the order in
 // which the host does things. The environment chooses among its misbehaviours.
@@ -27,13 +28,20 @@ enum FakeTest : core::TestId {
 /// Ids of the tests to list, comma separated.
 constexpr char kListEnvironment[] = "FAKE_TESTS";
 /// Space-separated words: "empty", "scan-throws", "slots-fail", "no-instance", "swallow" (tasks), "refuse" (runs),
-/// "stubborn" (about aborting).
+/// "stubborn" (about aborting), "endless" (self-tests).
 constexpr char kMoodEnvironment[] = "FAKE_MOOD";
+/// Code that a self-test ends with, 0 without it.
+constexpr char kSelfTestEnvironment[] = "FAKE_SELFTEST";
 /// File to which a line is added for each step of the host.
 constexpr char kLogEnvironment[] = "FAKE_LOG";
 
 bool IsInMood(const char* word);
 void Log(const std::string& line);
+std::string Environment(const char* name);
+
+/// Drives that tell everything, next to nothing, only what NVMe drives do, or all but their capacity.
+enum class FakeDrive { Ata, Silent, Nvme, Scsi };
+std::shared_ptr<module::storage::Protocol> MakeFakeDrive(FakeDrive kind);
 
 std::unique_ptr<core::Test> MakeFakeTest(core::TestId id);
 std::shared_ptr<core::DeviceScanner> MakeFakeScanner();

@@ -68,7 +68,7 @@ class FakeTestObject final : public core::Test {
     switch (id_) {
       case kWarn:
         arguments.reporter->AddMessage({MessageType::Warning, "LOGICAL_DRIVE_DEGRADED: 7"});
-        arguments.reporter->AddMessage({MessageType::Info, "DRIVE_DOWN: DISK B\xFF"});
+        arguments.reporter->AddMessage({MessageType::Info, "DRIVE_DOWN: DISK B - S2\xFF"});
         return TestResult::Warning;
       case kFail:
         arguments.reporter->AddMessage({MessageType::Error, "FAULTY_ENCLOSURE 3"});
@@ -124,8 +124,9 @@ class FakeDispatcher final : public core::DiagnosticDispatcher {
 
   void LogStep(const char* step, const core::DispatchRequest& request) const {
     const char* const thread = std::this_thread::get_id() == owner_ ? "" : " on a strange thread";
-    Log(std::string(step) + ' ' + std::to_string(request.GetTest()->Descriptor().id) + " on " + IdOf(request) +
-        " mode " + std::to_string(request.GetMode()) + thread);
+    const core::Test* const test = request.GetTest();
+    Log(std::string(step) + ' ' + (test == nullptr ? "drives" : std::to_string(test->Descriptor().id)) + " on " +
+        IdOf(request) + " mode " + std::to_string(request.GetMode()) + thread);
   }
 
   std::thread::id owner_ = std::this_thread::get_id();

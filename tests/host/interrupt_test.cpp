@@ -25,9 +25,9 @@ class InterruptTest : public testing::Test {
   }
 
   // Starts runs that would never end and waits until they are under way on both devices.
-  void Start() {
+  void Start(const QStringList& arguments = {"test", "--json"}) {
     process_.setChildProcessModifier([] { static_cast<void>(std::signal(SIGINT, SIG_DFL)); });
-    host_.Start(process_, {"test", "--json"});
+    host_.Start(process_, arguments);
     WaitForBoth("waiting\n");
   }
 
@@ -76,6 +76,19 @@ TEST_F(InterruptTest, SecondOneEndsAProgramThatHangs) {
   Send(SIGINT);
   ASSERT_TRUE(process_.waitForFinished(kPatienceMilliseconds));
   EXPECT_EQ(process_.exitStatus(), QProcess::CrashExit);
+}
+
+TEST_F(InterruptTest, SelfTestIsAborted) {
+  host_.SetEnvironment("FAKE_MOOD", "endless");
+  Start({"selftest", "0:0", "--json"});
+  Send(SIGINT);
+  ASSERT_TRUE(process_.waitForFinished(kPatienceMilliseconds));
+  EXPECT_EQ(process_.exitCode(), 3);
+  const QJsonObject document = CheckedDocument(process_.readAllStandardOutput());
+  EXPECT_EQ(document["selfTest"].toObject()["request"].toString(), "short");
+  EXPECT_EQ(document["errors"].toArray()[0].toObject()["message"].toString(),
+            "Device 0, d-0: The self-test was aborted");
+  EXPECT_EQ(host_.LogLines().filter("self-test aborted").size(), 1);
 }
 
 }  // namespace

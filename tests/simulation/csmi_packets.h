@@ -18,22 +18,30 @@ namespace orvik::simulation {
 using Bytes = std::vector<std::uint8_t>;
 
 /// A little-endian number of `width` bytes.
-struct Field {
+struct PacketField {
   std::size_t offset, width;
   std::uint64_t value;
 };
 
-inline void Put(Bytes& packet, const Field& field) {
+inline void Put(Bytes& packet, const PacketField& field) {
   for (std::size_t i = 0; i < field.width; ++i) {
     packet.at(field.offset + i) = static_cast<std::uint8_t>(field.value >> (8 * i));
   }
 }
 
-inline void ExpectFields(const Bytes& packet, std::initializer_list<Field> fields, std::size_t base = 0) {
+inline void PutLe(Bytes& packet, std::size_t offset, std::size_t width, std::uint64_t value) {
+  Put(packet, {offset, width, value});
+}
+
+inline std::uint64_t Le(const Bytes& packet, std::size_t offset, std::size_t width) {
+  std::uint64_t value = 0;
+  for (std::size_t i = width; i-- > 0;) value = value << 8 | packet.at(offset + i);
+  return value;
+}
+
+inline void ExpectFields(const Bytes& packet, std::initializer_list<PacketField> fields, std::size_t base = 0) {
   for (const auto& [offset, width, expected] : fields) {
-    std::uint64_t value = 0;
-    for (std::size_t i = width; i-- > 0;) value = value << 8 | packet.at(base + offset + i);
-    EXPECT_EQ(value, expected) << "at " << base + offset;
+    EXPECT_EQ(Le(packet, base + offset, width), expected) << "at " << base + offset;
   }
 }
 

@@ -80,7 +80,7 @@ TEST_F(CsmiPassThrough, CarriesScsiCommands) {
 }
 
 TEST_F(CsmiPassThrough, TellsWhyADriveCannotBeReached) {
-  using Row = std::tuple<std::size_t, Field, std::uint64_t, std::uint64_t>;
+  using Row = std::tuple<std::size_t, PacketField, std::uint64_t, std::uint64_t>;
   // No such phy, the phy of another port, neither phy nor port, no such port, another address; then each phy.
   for (const auto& [phy, change, stpCode, sspCode] :
        {Row{0, {28, 1, 9}, 2003, 2003}, Row{0, {29, 1, 1}, 2004, 2004}, Row{0, {28, 2, 0xFFFF}, 2006, 2006},
@@ -101,8 +101,8 @@ TEST_F(CsmiPassThrough, TellsWhyADriveCannotBeReached) {
 
 TEST_F(CsmiPassThrough, RefusesMalformedRequests) {
   // Data beyond the packet, and near 4 GiB; a FIS of another type, and without its command bit; a CDB too long.
-  for (const Field& change :
-       {Field{68, 4, 517}, Field{68, 4, 0xFFFFFFFF}, Field{44, 1, 0x34}, Field{45, 1, 0}, Field{48, 1, 17}}) {
+  for (const PacketField& change : {PacketField{68, 4, 517}, PacketField{68, 4, 0xFFFFFFFF}, PacketField{44, 1, 0x34},
+                                    PacketField{45, 1, 0}, PacketField{48, 1, 17}}) {
     Bytes packet = change.offset == 48 ? Ssp(1, Bytes(6), 0) : Stp(0, 0xEC, 512);
     Put(packet, change);
     ExpectFields(Send(packet), {{20, 4, 3}});

@@ -63,7 +63,7 @@ TEST_F(Faults, AreNotNeededForAMalformedHeaderToFail) {
   machine.Faults().Add({.operation = "DeviceIoControl", .effects = {.patches = {{100, {1}}}}});
   // Another control code, another header, a request shorter than it, a length beyond both buffers and one that
   // overflows, the signature of no interface; and an answer longer than its request, which is right.
-  using Row = std::tuple<std::uint32_t, Field, std::size_t, std::uint32_t>;
+  using Row = std::tuple<std::uint32_t, PacketField, std::size_t, std::uint32_t>;
   for (const auto& [code, change, inputSize, error] :
        {Row{0x1234, {}, 128, 1}, Row{kMiniport, {0, 4, 24}, 128, 1306}, Row{kMiniport, {}, 27, 87},
         Row{kMiniport, {24, 4, 101}, 128, 122}, Row{kMiniport, {24, 4, 0xFFFFFFFF}, 128, 122},

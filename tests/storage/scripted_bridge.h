@@ -6,17 +6,19 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <deque>
 #include <functional>
 #include <memory>
+#include <numeric>
 #include <string>
-#include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
 #include "module/storage/ata/ata_bridge.h"
 #include "module/storage/nvme/nvme_bridge.h"
-#include "module/storage/protocol_properties.h"
+#include "module/storage/protocol.h"
 #include "module/storage/scsi/scsi_bridge.h"
 
 namespace orvik::module::storage {
@@ -32,16 +34,14 @@ inline Bytes Reply(std::size_t size, const std::vector<std::pair<std::size_t, By
   return reply;
 }
 
-inline Bytes Chars(std::string_view text) {
+inline Bytes Chars(const std::string& text) {
   return {text.begin(), text.end()};
 }
 
 /// Makes the bytes add up to 0 by their last one.
 inline Bytes WithChecksum(Bytes bytes) {
-  std::uint8_t sum = 0;
   bytes.back() = 0;
-  for (const std::uint8_t byte : bytes) sum = static_cast<std::uint8_t>(sum + byte);
-  bytes.back() = static_cast<std::uint8_t>(-sum);
+  bytes.back() = static_cast<std::uint8_t>(-std::accumulate(bytes.begin(), bytes.end(), 0));
   return bytes;
 }
 
@@ -53,8 +53,7 @@ inline std::string Hex(std::uint64_t value, int digits) {
 
 inline std::string DataText(Direction direction, std::uint64_t length) {
   if (direction == Direction::kNone && length == 0) return "no data";
-  const char* const way = direction == Direction::kIn ? "in " : direction == Direction::kOut ? "out " : "none ";
-  return way + std::to_string(length);
+  return std::array{"none ", "in ", "out "}.at(static_cast<std::size_t>(direction)) + std::to_string(length);
 }
 
 /// Command, features, count, LBA low, mid and high, device, data.
@@ -73,20 +72,11 @@ inline std::string Describe(const ScsiCmd& command) {
 
 /// Opcode, namespace, command dwords 10 to 12, path, data.
 inline std::string Describe(const NvmeCmd& command) {
-  return (command.ioCommand != 0 ? "io " : "admin ") + Hex(command.commandDword0, 2) + " n" +
-         Hex(command.namespaceId, 8) + " " + Hex(command.commandDwords10To15[0], 8) + " " +
-         Hex(command.commandDwords10To15[1], 8) + " " + Hex(command.commandDwords10To15[2], 8) + " p" +
-         std::to_string(command.pathId) + " " + std::to_string(command.length);
+  std::string text = command.ioCommand != 0 ? "io " : "admin ";
+  text += Hex(command.commandDword0, 2) + " n" + Hex(command.namespaceId, 8);
+  for (const std::size_t i : {0U, 1U, 2U}) text += " " + Hex(command.commandDwords10To15.at(i), 8);
+  return text + " p" + std::to_string(command.pathId) + " " + std::to_string(command.length);
 }
-
-/// What a drive returns that ends a command well: of ATA the STATUS register, which takes the command's place.
-inline void Complete(AtaCmd& command) {
-  command.command = 0x50;
-}
-inline void Complete(ScsiCmd& command) {
-  command.status = kScsiStatusGood;
-}
-inline void Complete(NvmeCmd& /*command*/) {}
 
 template <typename BridgeType, typename CommandType>
 class ScriptedBridge final : public BridgeType {
@@ -101,15 +91,13 @@ class ScriptedBridge final : public BridgeType {
   void Expect(const std::string& command, Answer answer) { script_.emplace_back(command, std::move(answer)); }
 
   Status Send(CommandType& command) override {
-    const std::string sent = Describe(command);
-    if (script_.empty()) {
-      ADD_FAILURE() << "not in the script: " << sent;
-      return status::kFailure;
-    }
+    if (script_.empty()) return ADD_FAILURE() << "not in the script: " << Describe(command), status::kFailure;
     const auto [expected, answer] = std::move(script_.front());
     script_.pop_front();
-    EXPECT_EQ(sent, expected);
-    Complete(command);
+    EXPECT_EQ(Describe(command), expected);
+    // A command that ends well: of ATA the STATUS register takes the command's place.
+    if constexpr (std::is_same_v<CommandType, AtaCmd>) command.command = 0x50;
+    if constexpr (std::is_same_v<CommandType, ScsiCmd>) command.status = kScsiStatusGood;
     return answer(command);
   }
 
@@ -121,11 +109,30 @@ using ScriptedAta = ScriptedBridge<AtaBridge, AtaCmd>;
 using ScriptedScsi = ScriptedBridge<ScsiBridge, ScsiCmd>;
 using ScriptedNvme = ScriptedBridge<NvmeBridge, NvmeCmd>;
 
+/// Status and output of an operation.
+using Result = std::pair<Status, std::uint64_t>;
+
 /// A drive of one protocol behind one scripted bridge.
 template <typename ProtocolType, typename BridgeType>
 class DriveTest : public testing::Test {
  protected:
+  using Answer = typename BridgeType::Answer;
+  using Script = std::vector<std::pair<std::string, Answer>>;
+
   DriveTest() { protocol.AddBridge(bridge); }
+
+  void Expect(const Script& script) {
+    for (const auto& [command, answer] : script) bridge->Expect(command, answer);
+  }
+
+  /// What an operation makes of the answers to its commands. Its output is 99 before.
+  template <typename Output>
+  Result Ask(Status (Protocol::*operation)(Output&), const Script& script) {
+    Expect(script);
+    Output output = 99;
+    const Status result = (static_cast<Protocol&>(protocol).*operation)(output);
+    return {result, output};
+  }
 
   std::shared_ptr<BridgeType> bridge = std::make_shared<BridgeType>();
   ProtocolType protocol;
@@ -146,14 +153,6 @@ inline auto Answers(Bytes data = {}) {
   };
 }
 
-/// What a transport does that counts no bytes: the length stays what was asked for.
-inline auto AnswersUncounted(Bytes data) {
-  return [data = std::move(data)](auto& command) {
-    DeliverData(command, utils::ByteView(data));
-    return status::kSuccess;
-  };
-}
-
 /// An ATA command that ends with ERR and the given ERROR register.
 inline auto EndsWithError(std::uint8_t error, Status sent = status::kSuccess) {
   return [error, sent](AtaCmd& command) {
@@ -162,6 +161,8 @@ inline auto EndsWithError(std::uint8_t error, Status sent = status::kSuccess) {
     return sent;
   };
 }
+
+inline constexpr std::uint8_t kCheckCondition = 0x02;
 
 /// A SCSI command that ends with a status and sense data.
 inline auto EndsWithStatus(std::uint8_t scsiStatus, Bytes sense = {}) {
@@ -178,7 +179,5 @@ inline auto EndsWithStatus(std::uint8_t scsiStatus, Bytes sense = {}) {
 inline Bytes FixedSense(std::uint8_t key, std::uint8_t code, std::uint8_t qualifier = 0) {
   return Reply(18, {{0, {0x70}}, {2, {key}}, {7, {10}}, {12, {code, qualifier}}});
 }
-
-inline constexpr std::uint8_t kCheckCondition = 0x02;
 
 }  // namespace orvik::module::storage

@@ -83,8 +83,10 @@ Status AtaProtocol::ReadExtendedSelfTestLog(std::uint16_t pages, std::uint64_t& 
   const std::size_t size = std::size_t{pages} * kAtaPageSize;
   const std::unique_ptr<std::uint8_t[]> log(new (std::nothrow) std::uint8_t[size]());
   if (log == nullptr) return status::kBadArgument;
+  // Without all of its pages the log is of no use, and a drive may claim tens of thousands.
   std::uint16_t pagesRead = 0;
-  const Status read = logs_.ReadPages(ata_log::kExtendedSelfTest, pages, log.get(), &pagesRead);
+  const Status read =
+      logs_.ReadPages(ata_log::kExtendedSelfTest, pages, log.get(), &pagesRead, AtaLogs::OnBadPage::kStop);
   if (read != status::kSuccess || pagesRead != pages) return status::kFailure;
   const auto failing = FailingLbaOfExtendedSelfTestLog(ByteView({log.get(), size}));
   if (!failing) return status::kFailure;

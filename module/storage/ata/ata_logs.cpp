@@ -30,19 +30,22 @@ bool IsGoodPage(utils::ByteView page, std::uint16_t number) {
 }  // namespace
 
 Status AtaLogs::ReadPages(std::uint8_t logAddress, std::uint16_t count, std::uint8_t* buffer,
-                          std::uint16_t* pagesRead) {
+                          std::uint16_t* pagesRead, OnBadPage onBadPage) {
   if (buffer == nullptr || pagesRead == nullptr) return status::kBadArgument;
   *pagesRead = 0;
   const std::span whole(buffer, std::size_t{count} * kAtaPageSize);
   for (std::uint16_t number = 0; number < count; ++number) {
     const auto page = whole.subspan(std::size_t{*pagesRead} * kAtaPageSize, kAtaPageSize);
-    for (int attempt = 0; attempt < kAttemptsPerPage; ++attempt) {
+    bool good = false;
+    for (int attempt = 0; attempt < kAttemptsPerPage && !good; ++attempt) {
       ReadLogExt command(logAddress, 1, page.data(), number);
       if (const Status sent = bridges_.Send(command); sent != status::kSuccess) return sent;
-      if (command.length == kAtaPageSize && IsGoodPage(utils::ByteView(page), number)) {
-        ++*pagesRead;
-        break;
-      }
+      good = command.length == kAtaPageSize && IsGoodPage(utils::ByteView(page), number);
+    }
+    if (good) {
+      ++*pagesRead;
+    } else if (onBadPage == OnBadPage::kStop) {
+      break;
     }
   }
   return status::kSuccess;

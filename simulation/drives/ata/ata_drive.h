@@ -4,11 +4,18 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <mutex>
 #include <optional>
 #include <span>
 #include <vector>
 
+#include "simulation/clock/clock.h"
+#include "simulation/drives/ata/identify_data.h"
+#include "simulation/drives/data_direction.h"
 #include "simulation/drives/drive_descriptions.h"
+#include "simulation/drives/sector_store.h"
+#include "simulation/drives/self_tests.h"
 
 namespace orvik::simulation {
 
@@ -33,20 +40,75 @@ struct AtaCompletion {
   std::size_t transferred{};
 };
 
+// Bits of the error register.
+inline constexpr std::uint8_t kAtaAborted = 0x04;
+inline constexpr std::uint8_t kAtaIdNotFound = 0x10;
+inline constexpr std::uint8_t kAtaUncorrectable = 0x40;
+
+/// May be used from several threads; executes one command at a time.
 class AtaDrive {
  public:
-  explicit AtaDrive(SataDriveDescription description);
+  explicit AtaDrive(SataDriveDescription description,
+                    std::shared_ptr<const Clock> clock = std::make_shared<const Clock>(1));
 
   /// Executes `command` on `data`, the bytes that come in or go out. Nothing when the drive does not answer.
   std::optional<AtaCompletion> Execute(const AtaTaskFile& command, std::span<std::uint8_t> data);
+  /// The way that the data of `command` go.
+  static DataDirection DirectionOf(const AtaTaskFile& command);
 
   const SataDriveDescription& Description() const { return description_; }
-  /// The 512 bytes of IDENTIFY DEVICE.
-  std::span<const std::uint8_t> IdentifyData() const { return identify_; }
+  /// What is on the drive.
+  SectorStore& Store() { return store_; }
 
  private:
+  using Data = std::span<std::uint8_t>;
+
+  struct Command {
+    std::uint8_t code;
+    DataDirection direction;
+    /// One with 48-bit addresses.
+    bool extended;
+    AtaCompletion (AtaDrive::*execute)(const AtaTaskFile&, Data);
+  };
+  static std::span<const Command> Commands();
+  static const Command* Find(std::uint8_t code);
+
+  AtaCompletion IdentifyDevice(const AtaTaskFile& command, Data data);
+  AtaCompletion CheckPowerMode(const AtaTaskFile& command, Data data);
+  AtaCompletion IdleImmediate(const AtaTaskFile& command, Data data);
+  AtaCompletion StandbyImmediate(const AtaTaskFile& command, Data data);
+
+  AtaCompletion ReadSectors(const AtaTaskFile& command, Data data);
+  AtaCompletion WriteSectors(const AtaTaskFile& command, Data data);
+  AtaCompletion WriteUncorrectableExt(const AtaTaskFile& command, Data data);
+  /// The sectors that a command names.
+  struct Range {
+    std::uint64_t first;
+    std::uint64_t count;
+    std::uint64_t Bytes(std::uint32_t sectorSize) const { return count * sectorSize; }
+  };
+  /// Nothing, and `refusal`, when the drive does not have them.
+  std::optional<Range> RangeOf(const AtaTaskFile& command, AtaCompletion& refusal) const;
+
+  AtaCompletion Smart(const AtaTaskFile& command, Data data);
+  AtaCompletion SmartReadData(const AtaTaskFile& command, Data data);
+  AtaCompletion SmartReadLog(const AtaTaskFile& command, Data data);
+  AtaCompletion SmartExecuteOffline(const AtaTaskFile& command);
+  AtaCompletion SmartReturnStatus(const AtaTaskFile& command) const;
+  AtaCompletion ReadLogExt(const AtaTaskFile& command, Data data);
+  /// All pages of a general purpose log; empty when there is no such log.
+  std::vector<std::uint8_t> GeneralPurposeLog(std::uint8_t address);
+
   SataDriveDescription description_;
   std::vector<std::uint8_t> identify_;
+  AtaFeatures features_;
+  std::shared_ptr<const Clock> clock_;
+  SectorStore store_;
+
+  std::mutex mutex_;  // guards what follows
+  bool smartEnabled_;
+  std::uint8_t powerMode_;
+  SelfTests selfTests_;
 };
 
 }  // namespace orvik::simulation

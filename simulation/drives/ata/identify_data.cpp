@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <numeric>
+#include <string>
 #include <string_view>
 
 #include "simulation/bytes/bytes.h"
@@ -39,8 +40,17 @@ constexpr U8 kChecksumValid{510};
 constexpr U8 kChecksum{511};
 }  // namespace identify
 
+constexpr std::uint32_t kSmallSector = 512;
 constexpr std::uint64_t kMostSectors28 = 0x0FFFFFFF;
 constexpr std::uint8_t kChecksumSignature = 0xA5;
+
+// Bits of the words above.
+constexpr std::uint16_t kSmart = 0x0001;               // 82, 85
+constexpr std::uint16_t kExtendedAddresses = 0x0400;   // 83, 86
+constexpr std::uint16_t kGeneralPurposeLogs = 0x0020;  // 84, 87
+constexpr std::uint16_t kLargeSectors = 0x1000;        // 106
+constexpr std::uint16_t kSizesValid = 0x4000;          // 106
+constexpr std::uint16_t kSizesInvalid = 0x8000;        // 106
 
 // The two characters of each word stand in swapped order.
 void SetSwappedText(std::span<std::uint8_t> data, Block block, std::string_view text) {
@@ -51,10 +61,10 @@ void SetSwappedText(std::span<std::uint8_t> data, Block block, std::string_view 
 
 void SetCapacity(std::span<std::uint8_t> data, const SataDriveDescription& drive) {
   Set(data, identify::kSectors28, static_cast<std::uint32_t>(std::min(drive.sectors, kMostSectors28)));
-  Set(data, identify::kSectors48, drive.sectors);
-  std::uint16_t sizes = 0x4000;
+  if (drive.lba48) Set(data, identify::kSectors48, drive.sectors);
+  std::uint16_t sizes = kSizesValid;
   if (drive.sectorSize != 512) {
-    sizes |= 0x1000;
+    sizes |= kLargeSectors;
     Set(data, identify::kLogicalSectorWords, drive.sectorSize / 2);
   }
   if (drive.physicalSectorSize > drive.sectorSize) {
@@ -84,14 +94,37 @@ void SetCapabilities(std::span<std::uint8_t> data) {
   Set(data, Word(222), 0x10FF);  // serial transport, SATA up to 3.2
 }
 
+std::uint16_t Without(std::uint16_t word, std::uint16_t bit, bool without) {
+  return without ? static_cast<std::uint16_t>(word & ~bit) : word;
+}
+
 // Words 82 to 84 say what the drive can do, 85 to 87 what of it is switched on.
-void SetCommandSets(std::span<std::uint8_t> data) {
-  Set(data, identify::kCommandSets82, 0x346B);  // SMART, security, power management, write cache, look-ahead
-  Set(data, identify::kCommandSets83, 0x7D01);  // 48-bit addresses, FLUSH CACHE and its extended form
-  Set(data, identify::kCommandSets84, 0x4123);  // SMART error log and self-test, general purpose logs
-  Set(data, identify::kEnabled85, 0x3469);      // as 82, security off
-  Set(data, identify::kEnabled86, 0x3C01);
-  Set(data, identify::kEnabled87, 0x4123);
+void SetCommandSets(std::span<std::uint8_t> data, const SataDriveDescription& drive) {
+  const bool noSmart = drive.smart == FailurePrediction::Missing;
+  const bool smartOff = drive.smart != FailurePrediction::Enabled;
+  const bool noLogs = !drive.generalPurposeLogs;
+  // SMART, security, power management, write cache, look-ahead; security is off.
+  Set(data, identify::kCommandSets82, Without(0x346B, kSmart, noSmart));
+  Set(data, identify::kEnabled85, Without(0x3469, kSmart, smartOff));
+  // 48-bit addresses, FLUSH CACHE and its extended form.
+  Set(data, identify::kCommandSets83, Without(0x7D01, kExtendedAddresses, !drive.lba48));
+  Set(data, identify::kEnabled86, Without(0x3C01, kExtendedAddresses, !drive.lba48));
+  // SMART error log and self-test, general purpose logs.
+  Set(data, identify::kCommandSets84, Without(0x4123, kGeneralPurposeLogs, noLogs));
+  Set(data, identify::kEnabled87, Without(0x4123, kGeneralPurposeLogs, noLogs));
+}
+
+void SetChecksum(std::span<std::uint8_t> data) {
+  Set(data, identify::kChecksum, 0);
+  const unsigned sum = std::accumulate(data.begin(), data.end(), 0U);
+  Set(data, identify::kChecksum, static_cast<std::uint8_t>(0U - sum));
+}
+
+std::string SwappedText(std::span<const std::uint8_t> data, Block block) {
+  const auto bytes = Inside(data, block);
+  std::string text(bytes.begin(), bytes.end());
+  for (std::size_t i = 0; i + 1 < text.size(); i += 2) std::swap(text[i], text[i + 1]);
+  return text.erase(text.find_last_not_of(' ') + 1);
 }
 
 }  // namespace
@@ -99,16 +132,46 @@ void SetCommandSets(std::span<std::uint8_t> data) {
 std::vector<std::uint8_t> MakeIdentifyData(const SataDriveDescription& drive) {
   std::vector<std::uint8_t> data(identify::kSize);
   SetCapabilities(data);
-  SetCommandSets(data);
+  SetCommandSets(data, drive);
   SetSwappedText(data, identify::kSerial, drive.serial);
   SetSwappedText(data, identify::kFirmware, drive.firmware);
   SetSwappedText(data, identify::kModel, drive.model);
   SetCapacity(data, drive);
   Set(data, identify::kRotationRate, drive.rotationRate);
   Set(data, identify::kChecksumValid, kChecksumSignature);
-  const unsigned sum = std::accumulate(data.begin(), data.end(), 0U);
-  Set(data, identify::kChecksum, static_cast<std::uint8_t>(0U - sum));
+  SetChecksum(data);
   return data;
+}
+
+std::vector<std::uint8_t> WithSmartEnabled(std::vector<std::uint8_t> identify, bool enabled) {
+  const std::uint16_t word = Get(std::span<const std::uint8_t>(identify), identify::kEnabled85);
+  Set(identify, identify::kEnabled85, static_cast<std::uint16_t>(enabled ? word | kSmart : word & ~kSmart));
+  SetChecksum(identify);
+  return identify;
+}
+
+AtaFeatures FeaturesOf(std::span<const std::uint8_t> identify) {
+  AtaFeatures features;
+  features.lba48 = (Get(identify, identify::kCommandSets83) & kExtendedAddresses) != 0;
+  features.sectors = features.lba48 ? Get(identify, identify::kSectors48) : Get(identify, identify::kSectors28);
+  const std::uint16_t sizes = Get(identify, identify::kSectorSizes);
+  const bool large = (sizes & (kSizesInvalid | kSizesValid | kLargeSectors)) == (kSizesValid | kLargeSectors);
+  features.sectorSize = large ? 2 * Get(identify, identify::kLogicalSectorWords) : kSmallSector;
+  if (features.sectorSize == 0) features.sectorSize = kSmallSector;
+  features.generalPurposeLogs = (Get(identify, identify::kCommandSets84) & kGeneralPurposeLogs) != 0;
+  features.smartSupported = (Get(identify, identify::kCommandSets82) & kSmart) != 0;
+  features.smartEnabled = features.smartSupported && (Get(identify, identify::kEnabled85) & kSmart) != 0;
+  features.solidState = Get(identify, identify::kRotationRate) == kSolidState;
+  return features;
+}
+
+void DescribeByIdentifyData(SataDriveDescription& drive) {
+  const AtaFeatures features = FeaturesOf(drive.identify);
+  drive.sectors = features.sectors;
+  drive.sectorSize = features.sectorSize;
+  drive.model = SwappedText(drive.identify, identify::kModel);
+  drive.serial = SwappedText(drive.identify, identify::kSerial);
+  drive.firmware = SwappedText(drive.identify, identify::kFirmware);
 }
 
 }  // namespace orvik::simulation

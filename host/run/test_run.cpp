@@ -1,4 +1,6 @@
-#include "host/run/run.h"
+#include "host/run/test_run.h"
+
+#include <QCoreApplication>
 
 namespace orvik::host {
 namespace {
@@ -12,13 +14,19 @@ std::int32_t ModeOf(const core::Test& test) {
 
 }  // namespace
 
-Run::Run(const ListedDevice& onDevice, const ListedTest& ofTest, const core::AbortFlag& abortFlag)
-    : device(&onDevice),
-      test(&ofTest),
-      request(std::make_unique<core::DispatchRequest>(onDevice.device, ModeOf(*ofTest.test), ofTest.test.get())) {
+TestRun::TestRun(const ListedDevice& onDevice, const ListedTest& ofTest, const core::AbortFlag& abortFlag)
+    : Run(onDevice, ModeOf(*ofTest.test), ofTest.test.get()), test(&ofTest) {
   arguments.device = onDevice.device;
   arguments.abortFlag = &abortFlag;
   arguments.reporter = &recorder;
+}
+
+QString TestRun::Name() const {
+  return QCoreApplication::translate("orvik-diag", "Device %1: %2").arg(device->index).arg(test->name);
+}
+
+core::TestResult TestRun::Perform() {
+  return test->test->Run(arguments);
 }
 
 }  // namespace orvik::host

@@ -1,0 +1,48 @@
+#pragma once
+
+// A drive that the system itself sees: the device behind `\\.\PhysicalDriveN`.
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+
+#include "simulation/drives/drive.h"
+#include "simulation/machine/io_device.h"
+
+namespace orvik::simulation {
+
+class PhysicalDrive : public IoDevice {
+ public:
+  PhysicalDrive(const PhysicalDriveDescription& description, const std::shared_ptr<const Clock>& clock);
+
+  /// True when a fault rule knows a request by this name.
+  static bool HasRequest(std::string_view name);
+  const Drive& Inner() const { return drive_; }
+
+  std::string_view PacketName(std::uint32_t controlCode, std::span<const std::uint8_t> buffer) const override;
+  IoResult Control(std::uint32_t controlCode, std::span<std::uint8_t> buffer, std::size_t inputSize,
+                   std::size_t outputSize) override;
+
+ private:
+  using Buffer = std::span<std::uint8_t>;
+
+  struct Request {
+    std::string_view name;
+    std::uint32_t controlCode;
+    /// Sends a command of the host's own to the drive.
+    bool passesThrough;
+    IoResult (PhysicalDrive::*execute)(Buffer, std::size_t, std::size_t);
+  };
+  static std::span<const Request> Requests();
+  static const Request* Find(std::uint32_t controlCode);
+
+  IoResult AtaPassThrough(Buffer buffer, std::size_t inputSize, std::size_t outputSize);
+  IoResult ScsiPassThrough(Buffer buffer, std::size_t inputSize, std::size_t outputSize);
+  IoResult PredictFailure(Buffer buffer, std::size_t inputSize, std::size_t outputSize);
+
+  Drive drive_;
+  bool accessDenied_;
+};
+
+}  // namespace orvik::simulation

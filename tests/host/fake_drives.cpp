@@ -1,0 +1,82 @@
+#include <iostream>
+#include <type_traits>
+
+#include "tests/host/fake_module.h"
+
+// The base of all protocols lies in the module's library, which no test of the host needs.
+namespace orvik::module::storage {
+Protocol::Protocol() : properties_(std::make_shared<ProtocolProperties>()) {}
+Protocol::~Protocol() = default;
+bool Protocol::IsSupported() {
+  return true;
+}
+}  // namespace orvik::module::storage
+
+namespace orvik::tests {
+namespace {
+
+using namespace module::storage;
+
+class Drive final : public Protocol {
+ public:
+  explicit Drive(FakeDrive kind) : kind_(kind) {}
+
+  Status GetProperties(ProtocolProperties* properties) override {
+    if (kind_ == FakeDrive::Silent) return status::kDeviceError;
+    properties->protocolName = kind_ == FakeDrive::Nvme ? "NVMe" : kind_ == FakeDrive::Ata ? "ATA" : "SCSI";
+    properties->serialNumber = "SER-1";
+    if (kind_ == FakeDrive::Scsi) return status::kScsiStatusNotGood;
+    properties->sectorCount = 17592186044417;  // times 512: a whole number that a double cannot hold
+    properties->logicalSectorSize = 512;
+    return status::kSuccess;
+  }
+
+  Status StartSelfTest(std::uint8_t code, std::uint8_t /*count*/) override {
+    Log("self-test " + std::to_string(code) + (kind_ == FakeDrive::Ata ? " by ATA" : " by SCSI"));
+    if (IsInMood("endless")) std::cerr << "waiting\nwaiting\n" << std::flush;
+    return kind_ == FakeDrive::Silent ? status::kDeviceError : status::kSuccess;
+  }
+
+  Status GetSelfTestProgress(std::uint8_t& percent) override {
+    return ++looks_, Tell(percent, 50, kind_ == FakeDrive::Ata);
+  }
+
+  Status GetSelfTestResult(std::uint8_t& result) override {
+    if (looks_ == 0) return Tell(result, 7, kind_ == FakeDrive::Ata);
+    const bool isOver = looks_ > 1 && !IsInMood("endless");
+    return Tell(result, isOver ? static_cast<std::uint8_t>(Environment(kSelfTestEnvironment)[0] - '0') : 15, true);
+  }
+
+  Status AbortSelfTest() override { return Log("self-test aborted"), status::kSuccess; }
+  Status GetSelfTestFailingLba(std::uint64_t& lba) override { return Tell(lba, 1234, true); }
+  Status GetTemperature(std::uint8_t& degrees) override { return Tell(degrees, 33, kind_ == FakeDrive::Ata); }
+  Status GetHealthStatus(std::uint8_t& healthy) override { return Tell(healthy, 0, kind_ == FakeDrive::Ata); }
+  Status GetLifeRemaining(std::uint32_t& percent) override { return Tell(percent, 97, kind_ == FakeDrive::Nvme); }
+  Status GetPowerMode(std::uint32_t& mode) override { return Tell(mode, 2, kind_ == FakeDrive::Ata); }
+
+  void* GetHandle() const override { return nullptr; }
+  Status Read(std::uint64_t, std::uint16_t, std::uint32_t, std::uint8_t*, std::uint32_t) override { return 0; }
+  Status SetSmartEnabled(std::uint8_t) override { return 0; }
+  Status WriteUncorrectable(std::uint64_t) override { return 0; }
+  Status Write(std::uint64_t, std::uint16_t, std::uint64_t, std::uint8_t*) override { return 0; }
+  Status Idle() override { return 0; }
+
+ private:
+  // What a SCSI drive hasn't got fails, what an NVMe drive hasn't got stays untouched.
+  template <typename Value>
+  Status Tell(Value& output, std::type_identity_t<Value> value, bool isKnown) const {
+    if (isKnown) output = value;
+    return isKnown || kind_ == FakeDrive::Nvme ? status::kSuccess : status::kFailure;
+  }
+
+  FakeDrive kind_;
+  int looks_ = 0;
+};
+
+}  // namespace
+
+std::shared_ptr<module::storage::Protocol> MakeFakeDrive(FakeDrive kind) {
+  return std::make_shared<Drive>(kind);
+}
+
+}  // namespace orvik::tests
