@@ -53,8 +53,8 @@ exports hostkit.so get_filesystem get_module get_number_handler get_string_handl
 
 if [ "${1:-}" != --quick ]; then
   rule "clang-tidy"
-  # Only what the build compiles here: sources of other platforms have no compile command.
-  run-clang-tidy -quiet -p build/dev -extra-arg=-Wno-unknown-warning-option "$PWD/(core|utils|module|platform|simulation|host|tests)/.*" \
+  # The product's sources as far as they compile here; the test framework's macros would take longer than all of them.
+  run-clang-tidy -quiet -p build/dev -extra-arg=-Wno-unknown-warning-option "$PWD/(core|utils|module|platform|simulation|host)/.*" \
     > build/tidy.log 2>/dev/null || { grep -E 'warning:|error:|note:' -A 3 build/tidy.log; failed=1; }
 fi
 

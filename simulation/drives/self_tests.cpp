@@ -7,7 +7,7 @@ namespace orvik::simulation {
 
 namespace {
 
-constexpr std::uint64_t kMinute = 60 * 1000;
+constexpr std::uint64_t kMinute = 60000;
 constexpr std::uint64_t kHour = 60 * kMinute;
 
 SelfTestEntry Remembered(const PastSelfTest& past) {

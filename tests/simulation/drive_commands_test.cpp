@@ -92,7 +92,7 @@ TEST(AtaDriveCommands, RunSelfTestsAndLogThem) {
             (Bytes{1, 0x70, 0xE8, 3, 0, 0x89, 0x67, 0x45, 0x23, 0x81, 0}));
   const Bytes directory = AtaPage(drive, {0, 1, 0, 0x40, 0x2F}, false);
   EXPECT_EQ(Le(directory, 14, 2), 2U);
-  EXPECT_EQ(Le(directory, 2 * 0xDF, 2), 1U);
+  EXPECT_EQ(Le(directory, 0x1BE, 2), 1U);
   EXPECT_EQ(Le(AtaPage(drive, {0xD5, 1, kSmartKey, 0, 0xB0}, false), 12, 2), 1U);
   const Bytes label = AtaPage(drive, {0, 1, 0xDF, 0x40, 0x2F}, false);
   EXPECT_EQ(Text(label, 0, 3) + Text(label, 20, 2) + Text(label, 110, 6), "CRV8SLABEL ");

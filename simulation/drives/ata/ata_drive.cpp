@@ -76,6 +76,7 @@ AtaCompletion AtaDrive::IdentifyDevice(const AtaTaskFile& command, Data data) {
   return Delivered(command, WithSmartEnabled(identify_, smartEnabled_), data);
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): commands have one signature
 AtaCompletion AtaDrive::CheckPowerMode(const AtaTaskFile& command, Data /*data*/) {
   AtaCompletion completion = Completed(command);
   completion.count = powerMode_;

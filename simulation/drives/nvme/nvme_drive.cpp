@@ -23,7 +23,7 @@ constexpr std::uint32_t kIdentifyNamespace = 0;
 constexpr std::uint32_t kIdentifyController = 1;
 constexpr std::uint32_t kIdentifyNamespaceList = 2;
 
-constexpr std::uint64_t kMillisecondsPerHour = 3600 * 1000;
+constexpr std::uint64_t kMillisecondsPerHour = 3600000;
 
 NvmeCompletion Deliver(std::span<const std::uint8_t> reply, std::span<std::uint8_t> data) {
   const std::size_t size = std::min(reply.size(), data.size());

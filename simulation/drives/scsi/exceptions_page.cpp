@@ -25,7 +25,7 @@ constexpr std::uint8_t kChangeableFlags = kExceptionsDisabled;
 
 }  // namespace
 
-ExceptionsPage::ExceptionsPage(FailurePrediction prediction) : default_{} {
+ExceptionsPage::ExceptionsPage(FailurePrediction prediction) {
   const bool enabled = prediction == FailurePrediction::Enabled;
   Set(default_, kPageCode, kSavable | kCode);
   Set(default_, kPageLength, kSize - 2);

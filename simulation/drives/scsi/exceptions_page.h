@@ -32,7 +32,7 @@ class ExceptionsPage {
   bool ReportsInSense() const;
 
  private:
-  Bytes default_;
+  Bytes default_{};
   Bytes current_;
   Bytes saved_;
 };
