@@ -149,6 +149,23 @@ TEST(MemberDrivesTest, ReadBackWhatWasWrittenOnEveryRoad) {
   }
 }
 
+TEST(MemberDrivesTest, ReadNvmeSectorsOfTheirOwnDrive) {
+  constexpr std::uint64_t kLba = 1000215213;
+  auto first = Nvme("N1");
+  first.unreadableSectors = {kLba};
+  InstallController({first, Nvme("N2")});
+  const auto device = OpenDevice();
+  const auto members = Members(*device);
+  ASSERT_EQ(members.size(), 2U);
+  std::vector<std::uint8_t> data(1024, 0xEE);
+  EXPECT_NE(members[0].protocolObject->Read(kLba, 2, 30, data.data(), 1024), 0U);
+  EXPECT_EQ(members[0].protocolObject->Read(kLba + 1, 2, 30, data.data(), 1024), 0U);
+  EXPECT_EQ(data, std::vector<std::uint8_t>(1024));
+  EXPECT_EQ(members[1].protocolObject->Read(kLba, 2, 30, data.data(), 1024), 0U);
+  EXPECT_NE(members[1].protocolObject->Read(kLba + 2, 2, 30, data.data(), 1024), 0U);
+  EXPECT_EQ(members[1].protocolObject->Write(kLba, 2, 0, data.data()), 4U);
+}
+
 TEST(MemberDrivesTest, ShortenTheCdbForDrivesThatRefuseTheLongOne) {
   struct Case {
     std::uint64_t sectors;
