@@ -86,7 +86,6 @@ void VerifyPattern(storage::Protocol& drive, std::uint64_t lba, std::uint32_t se
 }
 
 TEST(MemberDrivesTest, EachHasItsOwnIdEveryTime) {
-  auto adapter = PciRaidAdapter("a77f", 14);
   InstallController({Sata(), Sas(), Nvme("N1"), Nvme("N2")});
   const auto device = OpenDevice();
   for (int round = 0; round < 2; ++round) {
