@@ -7,6 +7,7 @@
 #include "simulation/drives/drive_descriptions.h"
 #include "simulation/faults/fault.h"
 #include "simulation/registry/registry.h"
+#include "simulation/storelib/storelib_description.h"
 
 namespace orvik::simulation {
 
@@ -18,6 +19,8 @@ struct MachineDescription {
   std::vector<AdapterDescription> adapters{};
   /// `\\.\PhysicalDrive0` and those that follow it.
   std::vector<PhysicalDriveDescription> physicalDrives{};
+  /// The controllers behind the vendor's library.
+  StorelibDescription storelib{};
   std::vector<RegistryValue> registry{};
   std::vector<FaultRule> faults{};
 };
