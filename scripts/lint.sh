@@ -55,7 +55,7 @@ if [ "${1:-}" != --quick ]; then
   rule "clang-tidy"
   # The product's sources as far as they compile here; the test framework's macros would take longer than all of them.
   run-clang-tidy -quiet -p build/dev -extra-arg=-Wno-unknown-warning-option "$PWD/(core|utils|module|platform|simulation|host)/.*" \
-    > build/tidy.log 2>/dev/null || { grep -E 'warning:|error:|note:' -A 3 build/tidy.log; failed=1; }
+    > build/tidy.log 2>&1 || { grep -E 'warning:|error:|note:|terminated by' -A 3 build/tidy.log; failed=1; }
 fi
 
 [ "$failed" = 0 ] && echo "all rules hold"

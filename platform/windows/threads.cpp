@@ -43,10 +43,13 @@ DWORD_PTR ProcessMask() {
   return mask;
 }
 
+// The number that the system's pseudo handle has.
+constexpr ULONG_PTR kThisThread = ~ULONG_PTR{1};
+
 }  // namespace
 
 HANDLE WINAPI GetCurrentThread() {
-  return std::bit_cast<HANDLE>(~ULONG_PTR{1});
+  return std::bit_cast<HANDLE>(kThisThread);
 }
 
 DWORD_PTR WINAPI SetThreadAffinityMask(HANDLE thread, DWORD_PTR mask) {
@@ -57,7 +60,7 @@ DWORD_PTR WINAPI SetThreadAffinityMask(HANDLE thread, DWORD_PTR mask) {
     return 0;
   };
   if (const auto error = windows::InjectedError(*machine, "SetThreadAffinityMask")) return fail(*error);
-  if (thread != GetCurrentThread()) return fail(ERROR_INVALID_HANDLE);
+  if (std::bit_cast<ULONG_PTR>(thread) != kThisThread) return fail(ERROR_INVALID_HANDLE);
 
   cpu_set_t previous;
   CPU_ZERO(&previous);

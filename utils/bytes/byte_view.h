@@ -78,10 +78,23 @@ class ByteView {
     return Holds(block) ? ByteView(bytes_.subspan(block.offset, block.size)) : ByteView();
   }
 
+  /// The blocks of an array, `count` of them or as many as lie wholly inside the view.
+  std::vector<ByteView> Entries(BlockArray array, std::size_t count) const {
+    std::vector<ByteView> entries;
+    for (std::size_t i = 0; i < std::min(count, Count(array)); ++i) entries.push_back(Sub(array.At(i)));
+    return entries;
+  }
+
   /// The block's bytes as they stand: padding and zero bytes included.
   std::string Text(Block block) const {
     const auto bytes = Sub(block).Bytes();
     return {bytes.begin(), bytes.end()};
+  }
+
+  /// The block's bytes up to the first zero byte; all of them when there is none.
+  std::string ZeroTerminatedText(Block block) const {
+    const auto bytes = Sub(block).Bytes();
+    return {bytes.begin(), std::find(bytes.begin(), bytes.end(), std::uint8_t{0})};
   }
 
  private:

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "module/raid/register_fis.h"
+
 namespace orvik::module::raid {
 
 namespace {
@@ -29,7 +31,7 @@ void TakeScsiStatus(ByteView packet, storage::ScsiCmd& command) {
 }
 
 void TakeRegisters(ByteView statusFis, storage::AtaCmd& command) {
-  using namespace csmi::status_fis;
+  using namespace status_fis;
   const auto both = [statusFis](utils::U8 current, utils::U8 previous) {
     return storage::Register(statusFis.Get(current), statusFis.Get(previous));
   };

@@ -142,39 +142,4 @@ inline constexpr std::size_t kData = 164;
 inline constexpr std::size_t kSizeWithoutData = 168;
 }  // namespace stp
 
-/// Register FIS, host to device (Serial ATA 3, 10.5.5).
-namespace command_fis {
-inline constexpr U8 kType{0};
-inline constexpr U8 kFlags{1};
-inline constexpr U8 kCommand{2};
-inline constexpr U8 kFeatures{3};
-inline constexpr U8 kLbaLow{4};
-inline constexpr U8 kLbaMid{5};
-inline constexpr U8 kLbaHigh{6};
-inline constexpr U8 kDevice{7};
-inline constexpr U8 kLbaLowExp{8};
-inline constexpr U8 kLbaMidExp{9};
-inline constexpr U8 kLbaHighExp{10};
-inline constexpr U8 kFeaturesExp{11};
-inline constexpr U8 kSectorCount{12};
-inline constexpr U8 kSectorCountExp{13};
-inline constexpr std::uint8_t kHostToDevice = 0x27;
-inline constexpr std::uint8_t kIsCommand = 0x80;
-}  // namespace command_fis
-
-/// Register FIS, device to host (Serial ATA 3, 10.5.6).
-namespace status_fis {
-inline constexpr U8 kStatus{2};
-inline constexpr U8 kError{3};
-inline constexpr U8 kLbaLow{4};
-inline constexpr U8 kLbaMid{5};
-inline constexpr U8 kLbaHigh{6};
-inline constexpr U8 kDevice{7};
-inline constexpr U8 kLbaLowExp{8};
-inline constexpr U8 kLbaMidExp{9};
-inline constexpr U8 kLbaHighExp{10};
-inline constexpr U8 kSectorCount{12};
-inline constexpr U8 kSectorCountExp{13};
-}  // namespace status_fis
-
 }  // namespace orvik::module::raid::csmi

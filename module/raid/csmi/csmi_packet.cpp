@@ -6,6 +6,8 @@
 // Needs what comes before it.
 #include <ntddscsi.h>
 
+#include "module/raid/register_fis.h"
+
 namespace orvik::module::raid {
 
 namespace {
@@ -19,12 +21,6 @@ constexpr std::string_view kSignatureSas = "CSMISAS";
 constexpr std::string_view kSignatureArray = "CSMIARY";
 
 constexpr std::uint32_t kMaximumDrivesPerSet = 255;
-
-std::vector<ByteView> Entries(ByteView view, utils::BlockArray array, std::size_t count) {
-  std::vector<ByteView> entries;
-  for (std::size_t i = 0; i < std::min(count, view.Count(array)); ++i) entries.push_back(view.Sub(array.At(i)));
-  return entries;
-}
 
 void PutAddress(MutableByteView packet, ByteView phyEntry) {
   packet.Put(csmi::pass_through_address::kPhyIdentifier, phyEntry.Get(csmi::phy::kPhyIdentifier));
@@ -45,30 +41,6 @@ std::uint32_t DirectionFlag(Direction direction) {
 void PutDataOut(MutableByteView packet, std::size_t offset, Direction direction, const std::uint8_t* data,
                 std::uint64_t length) {
   if (direction == Direction::kOut && data != nullptr) packet.PutBytes({offset, length}, {data, length});
-}
-
-constexpr std::uint8_t Low(std::uint16_t value) {
-  return static_cast<std::uint8_t>(value & 0xFF);
-}
-constexpr std::uint8_t High(std::uint16_t value) {
-  return static_cast<std::uint8_t>(value >> 8);
-}
-
-void PutCommandFis(MutableByteView fis, const storage::AtaCmd& command) {
-  fis.Put(csmi::command_fis::kType, csmi::command_fis::kHostToDevice);
-  fis.Put(csmi::command_fis::kFlags, csmi::command_fis::kIsCommand);
-  fis.Put(csmi::command_fis::kCommand, command.command);
-  fis.Put(csmi::command_fis::kFeatures, Low(command.features));
-  fis.Put(csmi::command_fis::kLbaLow, Low(command.lbaLow));
-  fis.Put(csmi::command_fis::kLbaMid, Low(command.lbaMid));
-  fis.Put(csmi::command_fis::kLbaHigh, Low(command.lbaHigh));
-  fis.Put(csmi::command_fis::kDevice, command.device);
-  fis.Put(csmi::command_fis::kLbaLowExp, High(command.lbaLow));
-  fis.Put(csmi::command_fis::kLbaMidExp, High(command.lbaMid));
-  fis.Put(csmi::command_fis::kLbaHighExp, High(command.lbaHigh));
-  fis.Put(csmi::command_fis::kFeaturesExp, High(command.features));
-  fis.Put(csmi::command_fis::kSectorCount, Low(command.sectorCount));
-  fis.Put(csmi::command_fis::kSectorCountExp, High(command.sectorCount));
 }
 
 }  // namespace
@@ -95,7 +67,7 @@ ControllerStatusPacket::ControllerStatusPacket()
 PhyInformationPacket::PhyInformationPacket() : FixedCsmiPacket(kSignatureSas, csmi::phy_information::kControlCode) {}
 
 std::vector<ByteView> PhyInformationPacket::Phys() const {
-  return Entries(View(), csmi::phy_information::kPhys, View().Get(csmi::phy_information::kNumberOfPhys));
+  return View().Entries(csmi::phy_information::kPhys, View().Get(csmi::phy_information::kNumberOfPhys));
 }
 
 RaidInformationPacket::RaidInformationPacket()
@@ -108,7 +80,7 @@ RaidConfigurationPacket::RaidConfigurationPacket(std::uint32_t setIndex, std::ui
 }
 
 std::vector<ByteView> RaidConfigurationPacket::Drives() const {
-  return Entries(View(), csmi::raid_configuration::kDrives, View().Get(csmi::raid_configuration::kDriveCount));
+  return View().Entries(csmi::raid_configuration::kDrives, View().Get(csmi::raid_configuration::kDriveCount));
 }
 
 SspPassThroughPacket::SspPassThroughPacket(const storage::ScsiCmd& command, ByteView phyEntry)

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "module/raid/csmi/csmi_packet.h"
+#include "module/raid/register_fis.h"
 #include "module/storage/ata/ata_commands.h"
 #include "module/storage/ata/identify_data.h"
 #include "module/storage/scsi/inquiry_data.h"
@@ -17,7 +18,7 @@ storage::Status IdentifySataDrive(HANDLE port, utils::ByteView phyEntry, Physica
   StpPassThroughPacket packet(storage::IdentifyDevice(data.data()), phyEntry);
   const storage::Status sent = ExchangeCsmiPacket(port, packet);
   if (sent != status::kSuccess) return sent;
-  if ((packet.StatusFis().Get(csmi::status_fis::kStatus) & storage::kAtaStatusError) != 0) return status::kAtaError;
+  if ((packet.StatusFis().Get(status_fis::kStatus) & storage::kAtaStatusError) != 0) return status::kAtaError;
 
   const utils::ByteView identify = packet.Data();
   drive.model = storage::IdentifyModel(identify);

@@ -8,6 +8,7 @@
 #include "module/raid/csmi/csmi_bridges.h"
 #include "module/raid/csmi/csmi_device.h"
 #include "module/raid/csmi/csmi_layout.h"
+#include "module/raid/protocol_object.h"
 #include "module/storage/ata/ata_protocol.h"
 #include "module/storage/nvme/nvme_protocol.h"
 #include "module/storage/nvme/path_scan.h"
@@ -21,14 +22,6 @@ namespace status = storage::status;
 
 // Path ids are one byte, so a controller that has more drives to show makes them up.
 constexpr std::size_t kMaximumNvmeDrives = 256;
-
-template <typename ProtocolType, typename Bridge>
-std::shared_ptr<ProtocolType> MakeProtocol(std::uint32_t kind, std::shared_ptr<Bridge> bridge) {
-  auto protocol = std::make_shared<ProtocolType>();
-  protocol->SetInterfaceKind(kind);
-  protocol->AddBridge(std::move(bridge));
-  return protocol;
-}
 
 StorageDeviceEntry AttachedDrive(HANDLE port, utils::ByteView phyEntry) {
   StorageDeviceEntry entry;

@@ -1,14 +1,22 @@
 #pragma once
 
+#include <memory>
+
 #include "module/raid/device_manager.h"
+#include "module/raid/storelib/lsi_sender.h"
 
 namespace orvik::module::raid {
 
-/// The controllers behind the vendor's library. Without that library there are none.
+/// The controllers behind the vendor's library, which it keeps loaded. Without that library there are none.
 class LsiDeviceManager final : public DeviceManager {
  public:
-  bool HasControllers() override { return false; }
-  void RefreshDevices() override { devices_.clear(); }
+  LsiDeviceManager();
+
+  bool HasControllers() override;
+  void RefreshDevices() override;
+
+ private:
+  std::shared_ptr<LsiSender> sender;
 };
 
 }  // namespace orvik::module::raid
