@@ -474,6 +474,10 @@
         <translation>Befehle</translation>
     </message>
     <message>
+        <source>DEVICE</source>
+        <translation>KENNUNG</translation>
+    </message>
+    <message>
         <source>DRIVE</source>
         <translation>LAUFWERK</translation>
     </message>
@@ -484,10 +488,6 @@
     <message>
         <source>Device %1: %2</source>
         <translation>Gerät %1: %2</translation>
-    </message>
-    <message>
-        <source>DEVICE</source>
-        <translation>KENNUNG</translation>
     </message>
     <message>
         <source>Devices</source>
@@ -602,12 +602,12 @@
         <translation>Name</translation>
     </message>
     <message>
-        <source>No command was given</source>
-        <translation>Es wurde kein Befehl angegeben</translation>
-    </message>
-    <message>
         <source>No RAID controller found.</source>
         <translation>Kein RAID-Controller gefunden.</translation>
+    </message>
+    <message>
+        <source>No command was given</source>
+        <translation>Es wurde kein Befehl angegeben</translation>
     </message>
     <message>
         <source>No device "%1"</source>
@@ -656,6 +656,10 @@
     <message>
         <source>Power mode</source>
         <translation>Energiezustand</translation>
+    </message>
+    <message>
+        <source>Press this button when a test asks a question</source>
+        <translation>Diese Schaltfläche drücken, wenn ein Test eine Frage stellt</translation>
     </message>
     <message>
         <source>Print one JSON document</source>
@@ -1019,6 +1023,10 @@
         <translation>keine, die sich laden lässt (%1)</translation>
     </message>
     <message>
+        <source>not answered</source>
+        <translation>nicht beantwortet</translation>
+    </message>
+    <message>
         <source>not applicable</source>
         <translation>nicht anwendbar</translation>
     </message>
@@ -1085,6 +1093,10 @@
     <message>
         <source>physically %1 bytes</source>
         <translation>physisch %1 Byte</translation>
+    </message>
+    <message>
+        <source>question: %1 %2 (%3)</source>
+        <translation>Frage: %1 %2 (%3)</translation>
     </message>
     <message>
         <source>rebuilding</source>

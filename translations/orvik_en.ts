@@ -474,6 +474,10 @@
         <translation>Commands</translation>
     </message>
     <message>
+        <source>DEVICE</source>
+        <translation>DEVICE</translation>
+    </message>
+    <message>
         <source>DRIVE</source>
         <translation>DRIVE</translation>
     </message>
@@ -484,10 +488,6 @@
     <message>
         <source>Device %1: %2</source>
         <translation>Device %1: %2</translation>
-    </message>
-    <message>
-        <source>DEVICE</source>
-        <translation>DEVICE</translation>
     </message>
     <message>
         <source>Devices</source>
@@ -602,12 +602,12 @@
         <translation>Name</translation>
     </message>
     <message>
-        <source>No command was given</source>
-        <translation>No command was given</translation>
-    </message>
-    <message>
         <source>No RAID controller found.</source>
         <translation>No RAID controller found.</translation>
+    </message>
+    <message>
+        <source>No command was given</source>
+        <translation>No command was given</translation>
     </message>
     <message>
         <source>No device "%1"</source>
@@ -656,6 +656,10 @@
     <message>
         <source>Power mode</source>
         <translation>Power mode</translation>
+    </message>
+    <message>
+        <source>Press this button when a test asks a question</source>
+        <translation>Press this button when a test asks a question</translation>
     </message>
     <message>
         <source>Print one JSON document</source>
@@ -1019,6 +1023,10 @@
         <translation>none that can be loaded (%1)</translation>
     </message>
     <message>
+        <source>not answered</source>
+        <translation>not answered</translation>
+    </message>
+    <message>
         <source>not applicable</source>
         <translation>not applicable</translation>
     </message>
@@ -1085,6 +1093,10 @@
     <message>
         <source>physically %1 bytes</source>
         <translation>physically %1 bytes</translation>
+    </message>
+    <message>
+        <source>question: %1 %2 (%3)</source>
+        <translation>question: %1 %2 (%3)</translation>
     </message>
     <message>
         <source>rebuilding</source>

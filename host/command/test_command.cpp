@@ -5,6 +5,7 @@
 #include "host/inventory/device_list.h"
 #include "host/inventory/test_list.h"
 #include "host/privacy/hide_serials.h"
+#include "host/question/question_desk.h"
 #include "host/report/device_json.h"
 #include "host/report/run_report.h"
 #include "host/run/run_plan.h"
@@ -27,6 +28,12 @@ class TestCommand final : public Command {
     AddListOption(options, "--only", testNames_,
                   QCoreApplication::translate("orvik-diag", "Only the test with this id, key or name"))
         ->type_name(QCoreApplication::translate("orvik-diag", "TEST").toStdString());
+    options
+        .add_option(
+            "--answer", answer_,
+            QCoreApplication::translate("orvik-diag", "Press this button when a test asks a question").toStdString())
+        ->type_name("ok|cancel|yes|no")
+        ->check(CLI::IsMember({"ok", "cancel", "yes", "no"}, CLI::ignore_case));
   }
 
   CommandResult Execute(const CommandContext& context) override {
@@ -45,6 +52,8 @@ class TestCommand final : public Command {
     const TestRunList runs = PlanRuns(*chosenDevices, *chosenTests, context.abortFlag);
     {
       ProgressBars bars;
+      QuestionDesk desk(ButtonOf(QString::fromStdString(answer_)), [&bars](bool taken) { bars.SetHidden(taken); });
+      for (const auto& run : runs) run->recorder.SetQuestionDesk(desk);
       RunScheduler(*context.module.GetDispatcher(), context.abortFlag, bars).Complete(runs);
     }
     if (context.hideSerials) {
@@ -71,6 +80,7 @@ class TestCommand final : public Command {
 
   std::vector<std::string> deviceNames_;
   std::vector<std::string> testNames_;
+  std::string answer_;
 };
 
 }  // namespace

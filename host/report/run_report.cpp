@@ -23,6 +23,21 @@ QJsonObject MessageJson(const core::TestMessage& message) {
   };
 }
 
+QJsonObject QuestionJson(const AskedQuestion& question) {
+  return {
+      {"title", question.title},
+      {"text", question.text},
+      {"answer",
+       question.answer ? QJsonValue(QLatin1String(WordOf(*question.answer))) : QJsonValue(QJsonValue::Null)},
+  };
+}
+
+QString QuestionText(const AskedQuestion& question) {
+  const QString answer = question.answer ? QString(QLatin1String(WordOf(*question.answer)))
+                                         : QCoreApplication::translate("orvik-diag", "not answered");
+  return QCoreApplication::translate("orvik-diag", "question: %1 %2 (%3)").arg(question.title, question.text, answer);
+}
+
 QJsonValue NumberOf(const std::optional<core::TestResult>& result) {
   return result ? QJsonValue(static_cast<int>(*result)) : QJsonValue(QJsonValue::Null);
 }
@@ -31,6 +46,8 @@ QJsonObject RunJson(const TestRun& run) {
   const core::TestDescriptor& descriptor = run.test->test->Descriptor();
   QJsonArray messages;
   for (const core::TestMessage& message : run.recorder.Messages()) messages.append(MessageJson(message));
+  QJsonArray questions;
+  for (const AskedQuestion& question : run.recorder.Questions()) questions.append(QuestionJson(question));
   const std::optional<int> progress = run.recorder.Progress();
   return {
       {"device", QJsonObject{{"index", run.device->index}, {"id", RawText(run.device->description.id)}}},
@@ -39,6 +56,7 @@ QJsonObject RunJson(const TestRun& run) {
       {"error", run.outcome.error.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(run.outcome.error)},
       {"progress", progress ? QJsonValue(*progress) : QJsonValue(QJsonValue::Null)},
       {"messages", messages},
+      {"questions", questions},
   };
 }
 
@@ -69,6 +87,9 @@ std::vector<Count> CountOutcomes(const TestRunList& runs) {
 
 QString RunText(const TestRun& run, const Palette& palette) {
   QString text = QStringLiteral("    %1\n").arg(palette.Paint(Colour::Bold, run.test->name));
+  for (const AskedQuestion& question : run.recorder.Questions()) {
+    text += QStringLiteral("      %1\n").arg(QuestionText(question));
+  }
   for (const core::TestMessage& message : run.recorder.Messages()) {
     const Word type = WordFor(message.type);
     text +=

@@ -1,6 +1,7 @@
 #include "host/run/run_recorder.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvik::host {
 
@@ -13,7 +14,12 @@ void RunRecorder::AddMessage(const core::TestMessage& message) {
 }
 
 void RunRecorder::Ask(std::unique_ptr<core::InputInteraction>& question) {
-  if (question != nullptr) question->Interact();
+  if (question == nullptr) return;
+  if (desk_ == nullptr) {
+    question->Interact();
+  } else if (auto asked = desk_->Ask(*question)) {
+    questions_.push_back(*std::move(asked));
+  }
 }
 
 std::optional<int> RunRecorder::Progress() const {

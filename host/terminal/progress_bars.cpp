@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 #include "host/terminal/terminal.h"
 
@@ -33,7 +34,6 @@ ProgressBars::~ProgressBars() {
 }
 
 void ProgressBars::OnRunStarted(const Run& run) {
-  if (!shown_) return;
   runs_.push_back(&run);
   Redraw();
   if (!timer_.isActive()) timer_.start(kRedrawInterval);
@@ -42,6 +42,18 @@ void ProgressBars::OnRunStarted(const Run& run) {
 void ProgressBars::OnRunEnded(const Run& run) {
   std::erase(runs_, &run);
   if (runs_.empty()) timer_.stop();
+  Redraw();
+}
+
+void ProgressBars::SetHidden(bool hidden) {
+  if (!IsTerminal(Stream::Error)) return;
+  if (hidden) {
+    // Redrawing nothing removes what is there.
+    const auto runs = std::exchange(runs_, {});
+    Redraw();
+    runs_ = runs;
+  }
+  shown_ = !hidden;
   Redraw();
 }
 

@@ -17,10 +17,13 @@ class ProgressBars final : public RunObserver {
   void OnRunStarted(const Run& run) override;
   void OnRunEnded(const Run& run) override;
 
+  /// Takes the bars away, and shows them again: someone else writes to standard error.
+  void SetHidden(bool hidden);
+
  private:
   void Redraw();
 
-  const bool shown_;
+  bool shown_;
   QTimer timer_;
   std::vector<const Run*> runs_;
   int drawnLines_ = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QString>
 
 namespace orvik::host {
 
@@ -19,6 +20,18 @@ bool IsTerminal(Stream stream);
 
 /// Of the terminal behind standard error.
 TerminalSize ErrorTerminalSize();
+
+/// Whether a person may answer on standard input. Never on Windows, which has windows to ask in.
+bool IsInputTerminal();
+
+struct InputLine {
+  enum class State { None, Line, Ended };
+  State state = State::None;
+  QString text{};
+};
+
+/// A line from standard input when one is there; never waits for it.
+InputLine PollInputLine();
 
 /// Writes all of `bytes` at once. False when the stream does not take them.
 bool Write(Stream stream, QByteArrayView bytes);

@@ -26,4 +26,12 @@ TerminalSize ErrorTerminalSize() {
   return {info.srWindow.Right - info.srWindow.Left + 1, info.srWindow.Bottom - info.srWindow.Top + 1};
 }
 
+bool IsInputTerminal() {
+  return false;
+}
+
+InputLine PollInputLine() {
+  return {InputLine::State::Ended};
+}
+
 }  // namespace orvik::host

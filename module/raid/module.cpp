@@ -3,9 +3,12 @@
 #include <mutex>
 #include <set>
 
+#include "module/raid/diagnostics/battery_backup_unit_status_test.h"
+#include "module/raid/diagnostics/check_consistency_test.h"
 #include "module/raid/diagnostics/controller_status_test.h"
+#include "module/raid/diagnostics/enclosures_status_test.h"
+#include "module/raid/diagnostics/logical_drives_status_test.h"
 #include "module/raid/diagnostics/raid_status_test.h"
-#include "module/raid/diagnostics/storelib_tests.h"
 
 namespace orvik::module::raid {
 

@@ -5,7 +5,6 @@
 #include <sched.h>
 #include <unistd.h>
 
-#include <bit>
 
 #include "platform/windows/failure.h"
 #include "simulation/machine/current_machine.h"
@@ -43,13 +42,11 @@ DWORD_PTR ProcessMask() {
   return mask;
 }
 
-// The number that the system's pseudo handle has.
-constexpr ULONG_PTR kThisThread = ~ULONG_PTR{1};
-
 }  // namespace
 
 HANDLE WINAPI GetCurrentThread() {
-  return std::bit_cast<HANDLE>(kThisThread);
+  // The number that the system's pseudo handle has.
+  return reinterpret_cast<HANDLE>(~ULONG_PTR{1});  // NOLINT(performance-no-int-to-ptr)
 }
 
 DWORD_PTR WINAPI SetThreadAffinityMask(HANDLE thread, DWORD_PTR mask) {
@@ -60,7 +57,7 @@ DWORD_PTR WINAPI SetThreadAffinityMask(HANDLE thread, DWORD_PTR mask) {
     return 0;
   };
   if (const auto error = windows::InjectedError(*machine, "SetThreadAffinityMask")) return fail(*error);
-  if (std::bit_cast<ULONG_PTR>(thread) != kThisThread) return fail(ERROR_INVALID_HANDLE);
+  if (thread != GetCurrentThread()) return fail(ERROR_INVALID_HANDLE);
 
   cpu_set_t previous;
   CPU_ZERO(&previous);

@@ -33,7 +33,7 @@ class LoadedLibrary {
 
 }  // namespace
 
-LsiSender::LsiSender() : processLibCommand(nullptr), libraryHandle(nullptr) {
+LsiSender::LsiSender() {
   const std::string path = std::string(get_filesystem()->LibraryDirectory()) + "\\storelib.dll";
   LoadedLibrary library(get_module()->Load(path.c_str(), kLoadMode));
   if (library.Get() == nullptr) throw std::runtime_error("Failed to open the library handle.");

@@ -23,8 +23,8 @@ class LsiSender {
  private:
   using ProcessLibCommand = std::uint32_t(void* packet);
 
-  ProcessLibCommand* processLibCommand;
-  void* libraryHandle;
+  ProcessLibCommand* processLibCommand = nullptr;
+  void* libraryHandle = nullptr;
 };
 
 }  // namespace orvik::module::raid

@@ -1,0 +1,8 @@
+#include "host/display/display.h"
+
+namespace orvik::host {
+
+// There always is a desktop.
+void ChooseDisplay() {}
+
+}  // namespace orvik::host

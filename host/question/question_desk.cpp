@@ -1,0 +1,152 @@
+#include "host/question/question_desk.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QEvent>
+#include <QLabel>
+#include <chrono>
+#include <utility>
+
+#include "host/display/display.h"
+#include "host/terminal/terminal.h"
+#include "host/text/display_text.h"
+
+namespace orvik::host {
+namespace {
+
+constexpr std::chrono::milliseconds kTerminalInterval(100);
+
+// The dialog's object names, which the host's style sheet knows as well.
+constexpr QLatin1String kTitleName("generic_input_header_label");
+constexpr QLatin1String kTextName("generic_input_instruction_label");
+constexpr QLatin1String kButtonPrefix("generic_input_button_");
+
+QString LabelText(const QDialog& dialog, QLatin1String name) {
+  const auto* const label = dialog.findChild<QLabel*>(name);
+  return label == nullptr ? QString() : label->text();
+}
+
+std::optional<AnswerButton> ButtonOf(const QAbstractButton& button) {
+  const QString name = button.objectName();
+  return name.startsWith(kButtonPrefix) ? ButtonOf(name.mid(kButtonPrefix.size())) : std::nullopt;
+}
+
+}  // namespace
+
+QuestionDesk::QuestionDesk(std::optional<AnswerButton> beforehand, std::function<void(bool)> onTerminal)
+    : beforehand_(beforehand), onTerminal_(std::move(onTerminal)) {
+  connect(&terminalTimer_, &QTimer::timeout, this, [this] { ReadTerminal(); });
+  QCoreApplication::instance()->installEventFilter(this);
+}
+
+QuestionDesk::~QuestionDesk() {
+  QCoreApplication::instance()->removeEventFilter(this);
+}
+
+std::optional<AskedQuestion> QuestionDesk::Ask(core::InputInteraction& question) {
+  const std::lock_guard turn(turn_);
+  {
+    const std::lock_guard lock(mutex_);
+    expecting_ = true;
+    asked_.reset();
+  }
+  question.Interact();
+  const std::lock_guard lock(mutex_);
+  expecting_ = false;
+  return std::exchange(asked_, std::nullopt);
+}
+
+bool QuestionDesk::eventFilter(QObject* watched, QEvent* event) {
+  // A dialog may be shown more than once before it stays.
+  if (event->type() == QEvent::Show && watched != dialog_) {
+    auto* const dialog = qobject_cast<QDialog*>(watched);
+    if (dialog != nullptr && dialog->isWindow()) Take(*dialog);
+  }
+  return false;
+}
+
+void QuestionDesk::Take(QDialog& dialog) {
+  {
+    const std::lock_guard lock(mutex_);
+    if (!expecting_ || asked_) return;
+    asked_ = AskedQuestion{LabelText(dialog, kTitleName), LabelText(dialog, kTextName), std::nullopt};
+  }
+  dialog_ = &dialog;
+  for (QAbstractButton* const button : Buttons()) {
+    connect(button, &QAbstractButton::clicked, this, [this, answer = ButtonOf(*button)] {
+      const std::lock_guard lock(mutex_);
+      if (asked_) asked_->answer = answer;
+    });
+  }
+  connect(&dialog, &QObject::destroyed, this, [this] { LeaveTerminal(); });
+  // By then the dialog runs its own event loop and can be closed.
+  QTimer::singleShot(0, this, [this] { Serve(); });
+}
+
+void QuestionDesk::Serve() {
+  if (dialog_ == nullptr) return;
+  if (beforehand_) {
+    Press(*beforehand_);
+  } else if (HasDisplay()) {
+    return;  // whoever sits before it answers
+  } else if (IsInputTerminal() && IsTerminal(Stream::Error)) {
+    AskOnTerminal();
+  } else {
+    dialog_->close();
+  }
+}
+
+void QuestionDesk::Press(AnswerButton wanted) {
+  for (QAbstractButton* const button : Buttons()) {
+    if (ButtonOf(*button) == wanted) {
+      button->click();
+      return;
+    }
+  }
+  dialog_->close();
+}
+
+void QuestionDesk::AskOnTerminal() {
+  onTerminal_(true);
+  QStringList words;
+  for (const QAbstractButton* const button : Buttons()) words += QLatin1String(WordOf(*ButtonOf(*button)));
+  const QString question =
+      QStringLiteral("%1\n%2\n[%3] ")
+          .arg(LabelText(*dialog_, kTitleName), LabelText(*dialog_, kTextName), words.join(QLatin1Char('/')));
+  Write(Stream::Error, question.toUtf8());
+  terminalTimer_.start(kTerminalInterval);
+}
+
+void QuestionDesk::ReadTerminal() {
+  if (dialog_ == nullptr) return LeaveTerminal();
+  const InputLine input = PollInputLine();
+  if (input.state == InputLine::State::Ended) {
+    dialog_->close();
+  } else if (input.state == InputLine::State::Line) {
+    const std::optional<AnswerButton> answer = host::ButtonOf(input.text.trimmed());
+    bool known = false;
+    for (const QAbstractButton* const button : Buttons()) known = known || (answer && ButtonOf(*button) == answer);
+    if (known) {
+      Press(*answer);
+    } else {
+      AskOnTerminal();
+    }
+  }
+}
+
+void QuestionDesk::LeaveTerminal() {
+  if (!terminalTimer_.isActive()) return;
+  terminalTimer_.stop();
+  onTerminal_(false);
+}
+
+QList<QAbstractButton*> QuestionDesk::Buttons() const {
+  QList<QAbstractButton*> buttons;
+  for (QAbstractButton* const button : dialog_->findChildren<QAbstractButton*>()) {
+    if (ButtonOf(*button)) buttons += button;
+  }
+  return buttons;
+}
+
+}  // namespace orvik::host
