@@ -50,6 +50,7 @@ exports() {
 }
 exports ovk_module_raid.so CreateModuleInstance DestroyModuleInstance
 exports hostkit.so get_filesystem get_module get_number_handler get_string_handler get_temporary_path get_timer
+exports storelib.dll ProcessLibCommand
 
 if [ "${1:-}" != --quick ]; then
   rule "clang-tidy"

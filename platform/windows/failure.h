@@ -15,9 +15,10 @@ inline BOOL Fail(DWORD error) {
   return FALSE;
 }
 
-/// Counts a call of `function` and tells with which error the machine wants it to fail, if so.
+/// Counts a call of `function`, which may take its time, and tells with which error the machine wants it to fail, if
+/// so.
 inline std::optional<DWORD> InjectedError(simulation::Machine& machine, std::string_view function) {
-  return machine.Faults().OnCall({function}).error;
+  return machine.OnCall({function}).error;
 }
 
 }  // namespace orvik::platform::windows

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "platform/windows/failure.h"
+#include "platform/windows/library_faults.h"
 #include "platform/windows/library_references.h"
 #include "platform/windows/wide_text.h"
 #include "simulation/machine/current_machine.h"
@@ -55,8 +56,7 @@ HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
     return nullptr;
   };
   if (path == nullptr) return fail(ERROR_INVALID_PARAMETER);
-  const auto machine = simulation::CurrentMachine();
-  if (const auto error = windows::InjectedError(*machine, "LoadLibraryW")) return fail(*error);
+  if (const auto error = windows::LoadFailure(path)) return fail(*error);
   std::string name = windows::ToUtf8(path);
   std::ranges::replace(name, '\\', '/');
   void* loaded = name.empty() ? nullptr : dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
@@ -64,6 +64,10 @@ HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
 }
 
 FARPROC WINAPI GetProcAddress(HMODULE library, LPCSTR name) {
+  if (const auto error = windows::SearchFailure(library, name)) {
+    SetLastError(*error);
+    return nullptr;
+  }
   void* address = library == nullptr || name == nullptr ? nullptr : dlsym(std::bit_cast<void*>(library), name);
   if (address == nullptr) SetLastError(ERROR_PROC_NOT_FOUND);
   return std::bit_cast<FARPROC>(address);

@@ -31,6 +31,11 @@ void KeepLibrary(HMODULE library) {
   TheReferences().held[library].push_back(std::move(machine));
 }
 
+bool HoldsLibrary(HMODULE library) {
+  const std::scoped_lock lock(TheReferences().mutex);
+  return TheReferences().held.contains(library);
+}
+
 std::shared_ptr<simulation::Machine> ReleaseLibrary(HMODULE library) {
   const std::scoped_lock lock(TheReferences().mutex);
   auto& held = TheReferences().held;

@@ -1,10 +1,12 @@
 // Where the platform is Windows itself: what the system does best is left to it, and the machine's books are kept.
 
 #include <windows.h>
+#include <winternl.h>
 
 #include <bit>
 
 #include "platform/windows/failure.h"
+#include "platform/windows/library_faults.h"
 #include "platform/windows/library_references.h"
 #include "platform/windows/system_handles.h"
 #include "simulation/machine/current_machine.h"
@@ -12,12 +14,26 @@
 namespace windows = orvik::platform::windows;
 namespace simulation = orvik::simulation;
 
+extern "C" NTSTATUS NTAPI LdrGetProcedureAddress(PVOID library, PANSI_STRING name, ULONG number, PVOID* address);
+
 namespace {
+
+// The system's own search for a function. Its name leads back to the one below, so the loader itself is asked for it.
+decltype(&GetProcAddress) SystemSearch() {
+  static const auto search = [] {
+    ANSI_STRING name{};
+    RtlInitAnsiString(&name, "GetProcAddress");
+    PVOID address = nullptr;
+    LdrGetProcedureAddress(GetModuleHandleW(L"kernel32.dll"), &name, 0, &address);
+    return std::bit_cast<decltype(&GetProcAddress)>(address);
+  }();
+  return search;
+}
 
 /// The system's own function behind one of those below.
 template <typename Function>
 Function* SystemFunction(const char* name, Function* /*type*/) {
-  return std::bit_cast<Function*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), name));
+  return std::bit_cast<Function*>(SystemSearch()(GetModuleHandleW(L"kernel32.dll"), name));
 }
 
 }  // namespace
@@ -40,7 +56,7 @@ DWORD_PTR WINAPI SetThreadAffinityMask(HANDLE thread, DWORD_PTR mask) {
 }
 
 HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
-  if (const auto error = windows::InjectedError(*simulation::CurrentMachine(), "LoadLibraryW")) {
+  if (const auto error = windows::LoadFailure(path)) {
     SetLastError(*error);
     return nullptr;
   }
@@ -48,6 +64,14 @@ HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
   const HMODULE library = system(path);
   if (library != nullptr) windows::KeepLibrary(library);
   return library;
+}
+
+FARPROC WINAPI GetProcAddress(HMODULE library, LPCSTR name) {
+  if (const auto error = windows::SearchFailure(library, name)) {
+    SetLastError(*error);
+    return nullptr;
+  }
+  return SystemSearch()(library, name);
 }
 
 BOOL WINAPI FreeLibrary(HMODULE library) {

@@ -16,8 +16,11 @@ struct BytePatch {
   std::vector<std::uint8_t> bytes{};
 };
 
-/// What happens to one call. Everything but `error` is for packets only.
+/// What happens to one call. Everything but `delayMilliseconds` and `error` is for packets only; of a command to the
+/// vendor's library they change the data block, and `error` and `returnCode` are the status that it answers.
 struct FaultEffects {
+  /// The call answers this much later, by the machine's clock.
+  std::optional<std::uint32_t> delayMilliseconds{};
   /// The call fails with this Windows error code and changes nothing.
   std::optional<std::uint32_t> error{};
   /// The packet comes back unexecuted with this ReturnCode.
@@ -29,9 +32,9 @@ struct FaultEffects {
   std::optional<std::size_t> truncateTo{};
 };
 
-/// `operation` is a Windows function ("DeviceIoControl"), a packet ("CC_CSMI_SAS_GET_PHY_INFO") or "*" for every
-/// call outside that can fail. `call` is the number of the call that is hit, counted from 1 since the rule was added;
-/// without it every call is.
+/// `operation` is a Windows function ("DeviceIoControl"), a packet ("CC_CSMI_SAS_GET_PHY_INFO", "STORELIB_INIT") or
+/// "*" for every call outside that can fail. `call` is the number of the call that is hit, counted from 1 since the
+/// rule was added; without it every call is.
 struct FaultRule {
   std::string operation{};
   std::optional<std::uint64_t> call{};

@@ -8,9 +8,12 @@ namespace orvik::simulation {
 
 namespace {
 
-constexpr std::array<std::string_view, 9> kOutsideCalls = {
+constexpr std::array<std::string_view, 12> kOutsideCalls = {
     "CreateFileW",
     "DeviceIoControl",
+    "GetProcAddress",
+    "LoadLibraryW",
+    "ProcessLibCommand",
     "RegGetValueW",
     "SetupDiEnumDeviceInfo",
     "SetupDiEnumDeviceInterfaces",
@@ -21,6 +24,7 @@ constexpr std::array<std::string_view, 9> kOutsideCalls = {
 };
 
 void Merge(FaultEffects& into, const FaultEffects& from) {
+  if (from.delayMilliseconds) into.delayMilliseconds = from.delayMilliseconds;
   if (from.error && !into.error) into.error = from.error;
   if (from.returnCode) into.returnCode = from.returnCode;
   if (from.garbleSeed) into.garbleSeed = from.garbleSeed;

@@ -18,7 +18,7 @@ namespace orvik::simulation {
 inline constexpr std::string_view kEveryOutsideCall = "*";
 inline constexpr std::uint32_t kDefaultFaultError = 31;  // ERROR_GEN_FAILURE
 
-/// True for the Windows functions that "*" stands for.
+/// True for the functions that "*" stands for: those of Windows that can fail, and the vendor library's.
 bool IsOutsideCall(std::string_view operation);
 
 /// May be used from several threads.

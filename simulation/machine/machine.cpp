@@ -9,7 +9,9 @@
 namespace orvik::simulation {
 
 Machine::Machine(const MachineDescription& description)
-    : name_(description.name), clock_(std::make_shared<simulation::Clock>(description.speed)) {
+    : name_(description.name),
+      clock_(std::make_shared<simulation::Clock>(description.speed)),
+      storelib_(description.storelib, clock_) {
   for (const AdapterDescription& adapter : description.adapters) {
     adapters_.push_back(std::make_shared<Adapter>(adapter, clock_));
     RegisterDriver(adapter);
@@ -48,7 +50,7 @@ std::shared_ptr<IoDevice> Machine::Find(std::string_view fileName) const {
 IoResult Machine::Control(IoDevice& device, std::uint32_t controlCode, std::span<std::uint8_t> buffer,
                           std::size_t inputSize, std::size_t outputSize) {
   const std::string_view packet = device.PacketName(controlCode, buffer.first(inputSize));
-  const FaultEffects effects = faults_.OnCall({"DeviceIoControl", packet});
+  const FaultEffects effects = OnCall({"DeviceIoControl", packet});
   if (effects.error) return {.error = *effects.error};
 
   const std::vector<std::uint8_t> request(buffer.begin(), buffer.end());
@@ -61,6 +63,24 @@ IoResult Machine::Control(IoDevice& device, std::uint32_t controlCode, std::span
   }
   if (result.error == 0) Distort(effects, srb_io_control::kSize, request, buffer, result.returned);
   return result;
+}
+
+std::uint32_t Machine::ProcessLibCommand(std::span<std::uint8_t> packet, std::span<std::uint8_t> data) {
+  const FaultEffects effects = OnCall({"ProcessLibCommand", Storelib::CommandName(packet)});
+  if (effects.error) return *effects.error;
+
+  std::vector<std::uint8_t> before;
+  if (effects.truncateTo) before.assign(data.begin(), data.end());
+  const std::uint32_t status = effects.returnCode ? *effects.returnCode : storelib_.Execute(packet, data);
+  std::size_t returned = data.size();
+  Distort(effects, 0, before, data, returned);
+  return status;
+}
+
+FaultEffects Machine::OnCall(std::initializer_list<std::string_view> names) {
+  FaultEffects effects = faults_.OnCall(names);
+  clock_->Advance(effects.delayMilliseconds.value_or(0));
+  return effects;
 }
 
 }  // namespace orvik::simulation

@@ -3,6 +3,7 @@
 // The simulated machine: one model behind every front door (the Windows API, vendor libraries, tests).
 
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <span>
 #include <string>
@@ -17,6 +18,7 @@
 #include "simulation/machine/machine_description.h"
 #include "simulation/physical/physical_drive.h"
 #include "simulation/registry/registry.h"
+#include "simulation/storelib/storelib.h"
 
 namespace orvik::simulation {
 
@@ -35,12 +37,19 @@ class Machine {
   FaultBook& Faults() { return faults_; }
   simulation::Ledger& Ledger() { return ledger_; }
   simulation::Clock& Clock() { return *clock_; }
+  simulation::Storelib& Storelib() { return storelib_; }
 
   /// The device that a file name leads to, letters of either case; null when it leads nowhere.
   std::shared_ptr<IoDevice> Find(std::string_view fileName) const;
   /// Sends a request to `device` as `IoDevice::Control` does, as one outside call that the fault book may hit.
   IoResult Control(IoDevice& device, std::uint32_t controlCode, std::span<std::uint8_t> buffer, std::size_t inputSize,
                    std::size_t outputSize);
+  /// Sends a command to the vendor's library as `Storelib::Execute` does, as one outside call that the fault book may
+  /// hit.
+  std::uint32_t ProcessLibCommand(std::span<std::uint8_t> packet, std::span<std::uint8_t> data);
+  /// Counts a call from outside under each of `names` and lets the time pass that it is to be late. What else is to
+  /// happen to it is the caller's.
+  FaultEffects OnCall(std::initializer_list<std::string_view> names);
 
  private:
   void RegisterDriver(const AdapterDescription& adapter);
@@ -50,6 +59,7 @@ class Machine {
   std::shared_ptr<simulation::Clock> clock_;
   std::vector<std::shared_ptr<Adapter>> adapters_;
   std::vector<std::shared_ptr<PhysicalDrive>> physicalDrives_;
+  simulation::Storelib storelib_;
   simulation::Registry registry_;
   FaultBook faults_;
   simulation::Ledger ledger_;
