@@ -27,7 +27,7 @@ QString LabelText(const QDialog& dialog, QLatin1String name) {
   return label == nullptr ? QString() : label->text();
 }
 
-std::optional<AnswerButton> ButtonOf(const QAbstractButton& button) {
+std::optional<AnswerButton> AnswerOf(const QAbstractButton& button) {
   const QString name = button.objectName();
   return name.startsWith(kButtonPrefix) ? ButtonOf(name.mid(kButtonPrefix.size())) : std::nullopt;
 }
@@ -74,7 +74,7 @@ void QuestionDesk::Take(QDialog& dialog) {
   }
   dialog_ = &dialog;
   for (QAbstractButton* const button : Buttons()) {
-    connect(button, &QAbstractButton::clicked, this, [this, answer = ButtonOf(*button)] {
+    connect(button, &QAbstractButton::clicked, this, [this, answer = AnswerOf(*button)] {
       const std::lock_guard lock(mutex_);
       if (asked_) asked_->answer = answer;
     });
@@ -99,7 +99,7 @@ void QuestionDesk::Serve() {
 
 void QuestionDesk::Press(AnswerButton wanted) {
   for (QAbstractButton* const button : Buttons()) {
-    if (ButtonOf(*button) == wanted) {
+    if (AnswerOf(*button) == wanted) {
       button->click();
       return;
     }
@@ -110,7 +110,7 @@ void QuestionDesk::Press(AnswerButton wanted) {
 void QuestionDesk::AskOnTerminal() {
   onTerminal_(true);
   QStringList words;
-  for (const QAbstractButton* const button : Buttons()) words += QLatin1String(WordOf(*ButtonOf(*button)));
+  for (const QAbstractButton* const button : Buttons()) words += QLatin1String(WordOf(*AnswerOf(*button)));
   const QString question =
       QStringLiteral("%1\n%2\n[%3] ")
           .arg(LabelText(*dialog_, kTitleName), LabelText(*dialog_, kTextName), words.join(QLatin1Char('/')));
@@ -124,9 +124,9 @@ void QuestionDesk::ReadTerminal() {
   if (input.state == InputLine::State::Ended) {
     dialog_->close();
   } else if (input.state == InputLine::State::Line) {
-    const std::optional<AnswerButton> answer = host::ButtonOf(input.text.trimmed());
+    const std::optional<AnswerButton> answer = ButtonOf(input.text.trimmed());
     bool known = false;
-    for (const QAbstractButton* const button : Buttons()) known = known || (answer && ButtonOf(*button) == answer);
+    for (const QAbstractButton* const button : Buttons()) known = known || (answer && AnswerOf(*button) == answer);
     if (known) {
       Press(*answer);
     } else {
@@ -144,7 +144,7 @@ void QuestionDesk::LeaveTerminal() {
 QList<QAbstractButton*> QuestionDesk::Buttons() const {
   QList<QAbstractButton*> buttons;
   for (QAbstractButton* const button : dialog_->findChildren<QAbstractButton*>()) {
-    if (ButtonOf(*button)) buttons += button;
+    if (AnswerOf(*button)) buttons += button;
   }
   return buttons;
 }

@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "module/raid/diagnostics/battery_backup_unit_status_test.h"
+#include "module/raid/diagnostics/check_consistency_test.h"
 #include "module/raid/diagnostics/controller_status_test.h"
+#include "module/raid/diagnostics/enclosures_status_test.h"
+#include "module/raid/diagnostics/logical_drives_status_test.h"
 #include "module/raid/diagnostics/raid_status_test.h"
-#include "module/raid/diagnostics/storelib_tests.h"
 #include "tests/module/machines.h"
 #include "tests/module/run_recorder.h"
 
@@ -144,16 +147,6 @@ TEST(ControllerStatusTestTest, JudgesTheStatus) {
   EXPECT_TRUE(run.messages.empty());
 }
 
-/// A controller of the other family, as far as a test looks at it.
-class OtherFamilyDevice final : public LsiDevice {
- public:
-  OtherFamilyDevice() : LsiDevice(0) {}
-  storage::Status GetControllerInfo(ControllerInfo&) override { return 1; }
-  storage::Status GetLogicalDrives(std::vector<LogicalDrive>&) override { return 1; }
-  storage::Status GetPhysicalDrives(std::vector<PhysicalDrive>&) override { return 1; }
-  storage::Status GetStorageDevices(std::vector<StorageDeviceEntry>&) override { return 1; }
-};
-
 constexpr char kForeign[] =
     "THIS_TEST_CANNOT_BE_PERFORMED_BECAUSE_THE_DEVICE_COULD_NOT_BE_IDENTIFIED_OR_HAS_BEEN_DISCONNECTED";
 
@@ -183,7 +176,7 @@ std::vector<EveryTest> EveryTestOfTheModule() {
 TEST(EveryRaidTest, KeepsToDevicesOfItsFamily) {
   Install({.adapters = {Mirror()}});
   const std::shared_ptr<core::Device> csmi = OpenDevice();
-  const std::shared_ptr<core::Device> other = std::make_shared<OtherFamilyDevice>();
+  const std::shared_ptr<core::Device> other = std::make_shared<LsiDevice>(0, nullptr);
   for (const auto& [test, forCsmi, gone, messages, progress] : EveryTestOfTheModule()) {
     const auto& name = test->Descriptor().nameKey;
     EXPECT_EQ(test->IsSupported(*csmi, std::make_shared<int>()), forCsmi) << name;
