@@ -108,6 +108,18 @@ class Node {
     target = static_cast<Value>(number);
   }
 
+  /// A list of the names of a table, whose values are bits, or the number that they make up.
+  template <std::unsigned_integral Bits, std::size_t count>
+  void ReadBits(Bits& bits, const std::array<Named<Bits>, count>& names) const {
+    if (!IsList()) return Read(bits);
+    bits = 0;
+    ForEach([&](const Node& each) {
+      Bits bit = 0;
+      each.ReadName(bit, names);
+      bits = static_cast<Bits>(bits | bit);
+    });
+  }
+
   template <typename Reader>
   void ForEach(Reader read, std::size_t most = std::numeric_limits<std::size_t>::max()) const {
     for (const Node& element : Elements(most)) read(element);

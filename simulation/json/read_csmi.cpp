@@ -85,16 +85,6 @@ void ReadDriveNumber(const Node& node, const std::vector<DriveDescription>& driv
   node.Read(number, std::size_t{0}, drives.size() - 1);
 }
 
-void ReadFlags(const Node& node, std::uint32_t& flags) {
-  if (!node.IsList()) return node.Read(flags);
-  flags = 0;
-  node.ForEach([&](const Node& each) {
-    std::uint32_t flag = 0;
-    each.ReadName(flag, kFlags);
-    flags |= flag;
-  });
-}
-
 void ReadRevision(const Node& node, std::array<std::uint16_t, 4>& revision) {
   std::size_t count = 0;
   node.ForEach([&](const Node& each) {
@@ -168,7 +158,7 @@ CsmiControllerDescription ReadCsmiController(const Node& node) {
   CsmiControllerDescription controller;
   auto& drives = controller.drives;
   ObjectReader object(node);
-  ReadFlags(object.Optional("flags"), controller.flags);
+  object.Optional("flags").ReadBits(controller.flags, kFlags);
   object.Optional("status").ReadName(controller.status, kStatuses);
   object.Optional("offlineReason").ReadName(controller.offlineReason, kOfflineReasons);
   object.Optional("serial").Read(controller.serial, 80);

@@ -5,17 +5,23 @@
 #include "simulation/json/object_reader.h"
 #include "simulation/json/readers.h"
 #include "simulation/physical/physical_drive.h"
+#include "simulation/storelib/storelib.h"
 
 namespace orvik::simulation {
 
 namespace {
 
 // Functions that can be made to fail by name but that "*" leaves alone.
-constexpr std::array<std::string_view, 2> kByNameOnly = {"LoadLibraryW", "SetThreadAffinityMask"};
+constexpr std::array<std::string_view, 1> kByNameOnly = {"SetThreadAffinityMask"};
 
-// Packets with a header that has a ReturnCode.
+bool IsStorelibCommand(std::string_view operation) {
+  return operation == "ProcessLibCommand" || Storelib::HasCommand(operation);
+}
+
+// Packets with a header that has a ReturnCode, and commands, which answer a status.
 bool CarriesReturnCode(std::string_view operation) {
-  return operation == "DeviceIoControl" || operation == kNvmePassThroughName || CsmiController::HasPacket(operation);
+  return operation == "DeviceIoControl" || operation == kNvmePassThroughName ||
+         CsmiController::HasPacket(operation) || IsStorelibCommand(operation);
 }
 
 bool CarriesPackets(std::string_view operation) {
@@ -37,7 +43,8 @@ BytePatch ReadPatch(const Node& node) {
 }
 
 bool HasEffect(const FaultEffects& effects) {
-  return effects.error || effects.returnCode || effects.garbleSeed || effects.truncateTo || !effects.patches.empty();
+  return effects.delayMilliseconds || effects.error || effects.returnCode || effects.garbleSeed ||
+         effects.truncateTo || !effects.patches.empty();
 }
 
 }  // namespace
@@ -52,6 +59,7 @@ FaultRule ReadFault(const Node& node) {
     operation.Reject("\"*\", a Windows function or a packet that can be made to fail");
   }
   object.Optional("call").Read(fault.call, std::uint64_t{1}, std::numeric_limits<std::uint64_t>::max());
+  object.Optional("delayMilliseconds").Read(effects.delayMilliseconds);
   object.Optional("error").Read(effects.error);
   if (CarriesReturnCode(fault.operation)) object.Optional("returnCode").Read(effects.returnCode);
   if (CarriesPackets(fault.operation)) {

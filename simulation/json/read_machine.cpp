@@ -64,6 +64,8 @@ MachineDescription ReadMachine(const Node& node) {
   object.Optional("physicalDrives").ForEach([&](const Node& each) {
     machine.physicalDrives.push_back(ReadPhysicalDrive(each));
   });
+  if (const Node storelib = object.Optional("storelib"); storelib.Present())
+    machine.storelib = ReadStorelib(storelib);
   object.Optional("registry").ForEach([&](const Node& each) { machine.registry.push_back(ReadRegistryValue(each)); });
   object.Optional("faults").ForEach([&](const Node& each) { machine.faults.push_back(ReadFault(each)); });
   object.End();

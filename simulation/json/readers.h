@@ -7,6 +7,7 @@
 #include "simulation/faults/fault.h"
 #include "simulation/json/node.h"
 #include "simulation/machine/machine_description.h"
+#include "simulation/storelib/storelib_description.h"
 
 namespace orvik::simulation {
 
@@ -14,6 +15,7 @@ MachineDescription ReadMachine(const Node& node);
 CsmiControllerDescription ReadCsmiController(const Node& node);
 DriveDescription ReadDrive(const Node& node);
 PhysicalDriveDescription ReadPhysicalDrive(const Node& node);
+StorelibDescription ReadStorelib(const Node& node);
 FaultRule ReadFault(const Node& node);
 
 }  // namespace orvik::simulation

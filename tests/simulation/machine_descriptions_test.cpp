@@ -39,6 +39,14 @@ class MachineDescriptions : public testing::Test {
   static std::string Drive(const std::string& rest) {
     return Csmi(R"("drives": [{"serial": "s", "sectors": 1, "?": 0, )" + rest + "}]");
   }
+  static std::string Storelib(const std::string& rest) {
+    return Document(R"("storelib": {"controllers": [{"controllerId": 1, "product": "p", )" + rest + "}]}");
+  }
+  static std::string StorelibDrives(const std::string& rest) {
+    return Storelib(R"("drives": [{"deviceId": 8, "count": 3, "drive": {"kind": "SATA", "model": "m", "serial": "S08",
+                                  "sectors": 1}}, )" +
+                    rest);
+  }
   static std::string Csmi(const std::string& rest) { return Adapter(R"("csmi": {)" + rest + "}"); }
 
   // Tests may run side by side.
@@ -64,6 +72,23 @@ TEST_F(MachineDescriptions, AreRefusedWithPlaceExpectationAndFinding) {
       {Document(R"("faults": [{"operation": "*"}])"), R"(faults[0]: expected an effect such as "error", found none)"},
       {Document(R"("faults": [{"operation": "DeviceIoControl", "patch": [{"offset": 1, "bytes": "ABC"}]}])"),
        R"(faults[0].patch[0].bytes: expected a text of pairs of hexadecimal digits, found the text "ABC")"},
+      {Document(R"("storelib": {"controllers": [{"controllerId": 1, "product": "p"}, {"controllerId": 1}]})"),
+       "storelib.controllers[1].controllerId: expected a controller id of its own, found the controller id 1 again"},
+      {StorelibDrives(R"({"deviceId": 10, "drive": {"kind": "SATA", "model": "m", "serial": "", "sectors": 1}}])"),
+       "storelib.controllers[0].drives[1].deviceId: expected a device id of its own, found the device id 10 again"},
+      {StorelibDrives(R"({"deviceId": 1, "count": 2,
+                          "drive": {"kind": "SATA", "model": "m", "serial": "S9", "sectors": 1}}])"),
+       "storelib.controllers[0].drives[1].drive: expected a serial number that can be counted up, found an object"},
+      {StorelibDrives(R"({"deviceId": 1, "drive": {"kind": "NVMe", "model": "m", "serial": "s", "sectors": 1}}])"),
+       "storelib.controllers[0].drives[1].drive: expected a SATA or SAS drive, found an NVMe drive"},
+      {Storelib(R"("serial": "12345678901234567890123456789012")"),
+       "storelib.controllers[0].serial: expected a text of at most 31 bytes, "
+       R"(found the text "12345678901234567890123456789012")"},
+      {StorelibDrives(R"({"deviceId": 11, "deviceType": "enclosure",
+                          "drive": {"kind": "SAS", "vendor": "v", "product": "p", "serial": "s", "sectors": 1}}],
+          "logicalDrives": [{"targetId": 0, "count": 2, "level": "RAID 1", "blocks": 1, "members": [8, 9]}])"),
+       "storelib.controllers[0].logicalDrives[0].members: expected device ids of disks of this controller, "
+       "found the device id 11"},
   };
   for (const auto& [text, error] : rows) EXPECT_EQ(Error(text), error) << text;
   std::filesystem::remove(path);
@@ -117,6 +142,38 @@ TEST_F(MachineDescriptions, CarryEveryKeyIntoTheMachine) {
   EXPECT_EQ(effects.patches.at(0).bytes, (std::vector<std::uint8_t>{0x0A, 0xFF}));
 }
 
+// As the machine's library answers what has been described, repetitions included.
+TEST_F(MachineDescriptions, CarryStorelibControllersIntoTheMachine) {
+  const auto loaded = Load(StorelibDrives(R"(
+      {"deviceId": 4, "interfaceByte": 1, "drive": {"kind": "SATA", "model": "m", "serial": "", "sectors": 1}}],
+      "serial": "s", "interfaces": ["SPI", "SAS 6G"], "raidLevels": ["RAID 1", "RAID 60"], "batterySupported": false,
+      "battery": {"type": 3, "packMissing": true, "lowVoltage": true, "temperatureHigh": true},
+      "logicalDrives": [{"targetId": 254, "count": 2, "level": "RAID 10", "state": 9, "sequenceNumber": 2, "blocks": 7,
+                         "consistent": false, "members": [8],
+                         "check": {"seconds": 10, "runningAt": 65534, "endsConsistent": false, "startStatus": 24}}],
+      "enclosures": [{"enclosureId": 5, "faultByte": 6}])"));
+  ASSERT_TRUE(std::holds_alternative<std::shared_ptr<Machine>>(loaded)) << std::get<std::string>(loaded);
+  auto& storelib = std::get<std::shared_ptr<Machine>>(loaded)->Storelib();
+  const auto ask = [&](std::vector<std::uint8_t> packet, std::size_t size) {
+    packet.resize(40);
+    packet[4] = 1;
+    std::vector<std::uint8_t> block(size);
+    EXPECT_EQ(storelib.Execute(packet, block), 0U);
+    return block;
+  };
+  const auto info = ask({1, 0}, 2480);
+  EXPECT_EQ((std::vector<int>{info[104], info[1500], info[1504]}), (std::vector<int>{0x11, 0x82, 0}));
+  EXPECT_EQ((std::vector<int>{ask({1, 20}, 2070)[2064], ask({1, 20}, 2070)[2066]}), (std::vector<int>{3, 7}));
+  EXPECT_EQ(ask({1, 5}, 4616)[17], 6);
+  EXPECT_EQ(ask({2, 0, 0, 0, 0, 0, 0, 0, 4}, 512)[401], 1);
+  EXPECT_EQ(ask({3, 11, 0, 0, 0, 0, 0, 0, 0, 0, 255}, 516)[4], 9);
+  const auto drive = ask({3, 0, 0, 0, 0, 0, 0, 0, 0, 0, 255}, 384);
+  EXPECT_EQ((std::vector<int>{drive[2], drive[32], drive[34], drive[38], drive[40], drive[256]}),
+            (std::vector<int>{2, 1, 3, 9, 0, 7}));
+  EXPECT_TRUE(storelib.FindController(1)->IsChecking(254));
+  EXPECT_EQ(IdentityOf(storelib.FindController(1)->FindDrive(10)->Inner()).serial, "S10");
+}
+
 // The path of an interface tells the same device as the instance id, and no two are the same.
 TEST_F(MachineDescriptions, ComeAsSamples) {
   for (const auto& entry : std::filesystem::directory_iterator(ORVIK_MACHINES_DIR)) {
@@ -163,6 +220,16 @@ TEST_F(MachineDescriptions, HaveTheKeysOfTheirSchema) {
       {"nvmeDrive", Drive(R"("kind": "NVMe", "model": "m")")},
       {"phy", Csmi(R"("phys": [{"?": 0}])")},
       {"raidSet", Csmi(R"("raidSets": [{"type": 0, "capacityMiB": 0, "members": [], "?": 0}])")},
+      {"storelib", Document(R"("storelib": {"?": 0})")},
+      {"storelibController", Storelib(R"("?": 0)")},
+      {"storelibBattery", Storelib(R"("battery": {"?": 0})")},
+      {"storelibDrive", StorelibDrives(R"({"deviceId": 1, "?": 0,
+                           "drive": {"kind": "SATA", "model": "m", "serial": "", "sectors": 1}}])")},
+      {"storelibLogicalDrive",
+       Storelib(R"("logicalDrives": [{"targetId": 0, "level": "RAID 1", "blocks": 1, "members": [], "?": 0}])")},
+      {"storelibCheck", Storelib(R"("logicalDrives": [{"targetId": 0, "level": "RAID 1", "blocks": 1, "members": [],
+                                                       "check": {"?": 0}}])")},
+      {"storelibEnclosure", Storelib(R"("enclosures": [{"enclosureId": 0, "?": 0}])")},
       {"registryValue", Document(R"("registry": [{"key": "", "name": "", "text": "", "?": 0}])")},
       {"fault", Document(R"("faults": [{"operation": "DeviceIoControl", "?": 0}])")},
   };
