@@ -64,6 +64,7 @@ MachineDescription ReadMachine(const Node& node) {
   object.Optional("physicalDrives").ForEach([&](const Node& each) {
     machine.physicalDrives.push_back(ReadPhysicalDrive(each));
   });
+  if (const Node desktop = object.Optional("desktop"); desktop.Present()) machine.desktop = ReadDesktop(desktop);
   object.Optional("registry").ForEach([&](const Node& each) { machine.registry.push_back(ReadRegistryValue(each)); });
   object.Optional("faults").ForEach([&](const Node& each) { machine.faults.push_back(ReadFault(each)); });
   object.End();

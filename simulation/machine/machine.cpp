@@ -9,7 +9,9 @@
 namespace orvik::simulation {
 
 Machine::Machine(const MachineDescription& description)
-    : name_(description.name), clock_(std::make_shared<simulation::Clock>(description.speed)) {
+    : name_(description.name),
+      clock_(std::make_shared<simulation::Clock>(description.speed)),
+      desktop_(description.desktop) {
   for (const AdapterDescription& adapter : description.adapters) {
     adapters_.push_back(std::make_shared<Adapter>(adapter, clock_));
     RegisterDriver(adapter);
