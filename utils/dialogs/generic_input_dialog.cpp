@@ -93,6 +93,11 @@ void GenericInputDialog::Close(std::uint32_t answer) {
   close();
 }
 
+// An empty key would be answered with a translation file's own header.
+QString GenericInputDialog::Translated(const std::string& key) const {
+  return key.empty() ? QString() : QCoreApplication::translate(translationContext_.c_str(), key.c_str());
+}
+
 // The lower levels of a question join their keys with blanks, and each key has a translation of its own.
 void GenericInputDialog::ShowText() {
   QStringList words;
