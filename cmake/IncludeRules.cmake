@@ -18,12 +18,13 @@ set(layers
   "module/raid: module/storage utils core outside Qt"
   "core:"
   "utils: core outside Qt"
+  "platform/skinkit: Qt outside"
   "platform: simulation core utils/text/string_handler.h outside"
   "simulation: Qt"
   "host: core module/raid/device_records.h module/storage/protocol.h module/storage/protocol_properties.h
    module/storage/status.h Qt CLI windows.h"
   "tests: *")
-set(outside_headers "windows.h|setupapi.h|winioctl.h|ntddscsi.h|hostkit.h")
+set(outside_headers "windows.h|setupapi.h|winioctl.h|ntddscsi.h|shlobj.h|shellscalingapi.h|hostkit.h|skinkit.h")
 
 function(layer_of path result)
   foreach(layer IN LISTS layers)

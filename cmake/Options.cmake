@@ -41,15 +41,19 @@ function(orvik_target name)
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
 endfunction()
 
-# Makes a plug-in library: no "lib" before its name, and of its symbols only the given functions of the given source
-# file are visible, undecorated.
-function(orvik_exports name source)
-  set(list "${CMAKE_CURRENT_BINARY_DIR}/${name}")
+# The file of a library that hosts load or link by its plain name: no "lib" before it.
+function(orvik_plugin_name name)
   set_target_properties(${name} PROPERTIES PREFIX "")
   if(WIN32 AND ORVIK_SIMULATED)
     # Both variants lie in one folder of an installation.
     set_target_properties(${name} PROPERTIES OUTPUT_NAME "${name}_simulated")
   endif()
+endfunction()
+
+# Makes a plug-in library: of its symbols only the given functions of the given source file are visible, undecorated.
+function(orvik_exports name source)
+  set(list "${CMAKE_CURRENT_BINARY_DIR}/${name}")
+  orvik_plugin_name(${name})
   if(WIN32)
     list(JOIN ARGN "\n  " names)
     file(CONFIGURE OUTPUT "${list}.def" CONTENT "EXPORTS\n  @names@\n" @ONLY)

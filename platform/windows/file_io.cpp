@@ -1,4 +1,5 @@
-// Files of the machine: opening device interfaces by path and sending I/O control requests to them.
+// Files of the machine: opening device interfaces by path and sending I/O control requests to them; and the one mutex
+// that it may have, because all handles are closed in one place.
 
 #include <windows.h>
 
@@ -18,7 +19,7 @@ namespace simulation = orvik::simulation;
 
 namespace {
 
-// An open file keeps its machine, also when another one has been installed since.
+// An open file keeps its machine, also when another one has been installed since. A mutex is one without a device.
 struct File {
   std::shared_ptr<simulation::Machine> machine;
   std::shared_ptr<simulation::IoDevice> device;
@@ -47,6 +48,20 @@ HANDLE WINAPI CreateFileW(LPCWSTR name, DWORD /*access*/, DWORD /*share*/, LPSEC
   return Files().Add(std::make_shared<File>(File{machine, std::move(device)}));
 }
 
+HANDLE WINAPI OpenMutexW(DWORD /*access*/, BOOL /*inherit*/, LPCWSTR name) {
+  const auto fail = [](DWORD error) -> HANDLE {
+    SetLastError(error);
+    return nullptr;
+  };
+  const auto machine = simulation::CurrentMachine();
+  if (const auto error = windows::InjectedError(*machine, "OpenMutexW")) return fail(*error);
+  if (name == nullptr) return fail(ERROR_INVALID_PARAMETER);
+  const bool known = windows::ToUtf8(name) == "NarratorRunning" && machine->Desktop().State().narrator;
+  if (!known) return fail(ERROR_FILE_NOT_FOUND);
+  machine->Ledger().Take(simulation::Resource::FileHandle);
+  return Files().Add(std::make_shared<File>(File{machine, nullptr}));
+}
+
 BOOL WINAPI CloseHandle(HANDLE handle) {
   const auto file = Files().Remove(handle);
   if (file == nullptr) {
@@ -63,7 +78,7 @@ BOOL WINAPI CloseHandle(HANDLE handle) {
 BOOL WINAPI DeviceIoControl(HANDLE device, DWORD code, LPVOID input, DWORD inputSize, LPVOID output, DWORD outputSize,
                             LPDWORD returned, LPOVERLAPPED /*overlapped*/) {
   const auto file = Files().Find(device);
-  if (file == nullptr) return windows::Fail(ERROR_INVALID_HANDLE);
+  if (file == nullptr || file->device == nullptr) return windows::Fail(ERROR_INVALID_HANDLE);
   const bool missing = (input == nullptr && inputSize != 0) || (output == nullptr && outputSize != 0);
   if (returned == nullptr || missing) return windows::Fail(ERROR_INVALID_PARAMETER);
 

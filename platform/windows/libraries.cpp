@@ -10,6 +10,7 @@
 #include <bit>
 #include <string>
 
+#include "platform/windows/dpi_library.h"
 #include "platform/windows/failure.h"
 #include "platform/windows/library_faults.h"
 #include "platform/windows/library_references.h"
@@ -48,6 +49,14 @@ std::string PathOf(HMODULE library) {
   return path.empty() ? ProgramPath() : path;
 }
 
+// Empty when the machine's system does not have the library.
+std::string DpiLibraryPath(simulation::Machine& machine) {
+  static const char kInThisLibrary = 0;
+  if (!machine.Desktop().State().dpiLibrary) return {};
+  const std::string self = PathOf(std::bit_cast<HMODULE>(LibraryAt(&kInThisLibrary)));
+  return self.substr(0, self.rfind('/') + 1) + "shcore.dll";
+}
+
 }  // namespace
 
 HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
@@ -59,6 +68,7 @@ HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
   if (const auto error = windows::LoadFailure(path)) return fail(*error);
   std::string name = windows::ToUtf8(path);
   std::ranges::replace(name, '\\', '/');
+  if (windows::IsDpiLibrary(name)) name = DpiLibraryPath(*simulation::CurrentMachine());
   void* loaded = name.empty() ? nullptr : dlopen(name.c_str(), RTLD_NOW | RTLD_LOCAL);
   return loaded == nullptr ? fail(ERROR_MOD_NOT_FOUND) : Keep(loaded);
 }

@@ -3,12 +3,17 @@
 #include <windows.h>
 #include <winternl.h>
 
+#include <shlobj.h>
+
+#include <array>
 #include <bit>
 
+#include "platform/windows/dpi_library.h"
 #include "platform/windows/failure.h"
 #include "platform/windows/library_faults.h"
 #include "platform/windows/library_references.h"
 #include "platform/windows/system_handles.h"
+#include "platform/windows/wide_text.h"
 #include "simulation/machine/current_machine.h"
 
 namespace windows = orvik::platform::windows;
@@ -32,8 +37,20 @@ decltype(&GetProcAddress) SystemSearch() {
 
 /// The system's own function behind one of those below.
 template <typename Function>
-Function* SystemFunction(const char* name, Function* /*type*/) {
-  return std::bit_cast<Function*>(SystemSearch()(GetModuleHandleW(L"kernel32.dll"), name));
+Function* SystemFunction(const char* name, Function* /*type*/, const wchar_t* library = L"kernel32.dll") {
+  return std::bit_cast<Function*>(SystemSearch()(GetModuleHandleW(library), name));
+}
+
+// The stand-in has a name of its own here, so that nobody but the machine's programs gets it for the system's.
+windows::WideString DpiLibraryPath() {
+  static const char kInThisLibrary = 0;
+  HMODULE self = nullptr;
+  std::array<WCHAR, 4096> path{};
+  constexpr DWORD kFlags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
+  GetModuleHandleExW(kFlags, reinterpret_cast<LPCWSTR>(&kInThisLibrary), &self);
+  const DWORD length = GetModuleFileNameW(self, path.data(), static_cast<DWORD>(path.size()));
+  const windows::WideView name(path.data(), length);
+  return windows::WideString(name.substr(0, name.rfind(L'\\') + 1)) + L"shcore_simulated.dll";
 }
 
 }  // namespace
@@ -42,6 +59,12 @@ Function* SystemFunction(const char* name, Function* /*type*/) {
 bool windows::CloseSystemHandle(HANDLE handle) {
   static auto* const system = SystemFunction("CloseHandle", &CloseHandle);
   return system(handle) != FALSE;
+}
+
+bool windows::FreeSystemMemory(void* memory) {
+  static auto* const system = SystemFunction("CoTaskMemFree", &CoTaskMemFree, L"ole32.dll");
+  if (system != nullptr) system(memory);
+  return system != nullptr;
 }
 
 DWORD_PTR WINAPI SetThreadAffinityMask(HANDLE thread, DWORD_PTR mask) {
@@ -56,9 +79,17 @@ DWORD_PTR WINAPI SetThreadAffinityMask(HANDLE thread, DWORD_PTR mask) {
 }
 
 HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
-  if (const auto error = windows::LoadFailure(path)) {
-    SetLastError(*error);
+  const auto machine = simulation::CurrentMachine();
+  const auto fail = [](DWORD error) -> HMODULE {
+    SetLastError(error);
     return nullptr;
+  };
+  if (const auto error = windows::LoadFailure(path)) return fail(*error);
+  windows::WideString standIn;
+  if (path != nullptr && windows::IsDpiLibrary(windows::ToUtf8(path))) {
+    if (!machine->Desktop().State().dpiLibrary) return fail(ERROR_MOD_NOT_FOUND);
+    standIn = DpiLibraryPath();
+    path = standIn.c_str();
   }
   static auto* const system = SystemFunction("LoadLibraryW", &LoadLibraryW);
   const HMODULE library = system(path);

@@ -8,4 +8,7 @@ namespace orvik::platform::windows {
 /// system.
 bool CloseSystemHandle(HANDLE handle);
 
+/// Releases memory that the system itself handed out. False where there is no such system.
+bool FreeSystemMemory(void* memory);
+
 }  // namespace orvik::platform::windows

@@ -66,6 +66,7 @@ MachineDescription ReadMachine(const Node& node) {
   });
   if (const Node storelib = object.Optional("storelib"); storelib.Present())
     machine.storelib = ReadStorelib(storelib);
+  if (const Node desktop = object.Optional("desktop"); desktop.Present()) machine.desktop = ReadDesktop(desktop);
   object.Optional("registry").ForEach([&](const Node& each) { machine.registry.push_back(ReadRegistryValue(each)); });
   object.Optional("faults").ForEach([&](const Node& each) { machine.faults.push_back(ReadFault(each)); });
   object.End();

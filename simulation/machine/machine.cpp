@@ -11,7 +11,8 @@ namespace orvik::simulation {
 Machine::Machine(const MachineDescription& description)
     : name_(description.name),
       clock_(std::make_shared<simulation::Clock>(description.speed)),
-      storelib_(description.storelib, clock_) {
+      storelib_(description.storelib, clock_),
+      desktop_(description.desktop) {
   for (const AdapterDescription& adapter : description.adapters) {
     adapters_.push_back(std::make_shared<Adapter>(adapter, clock_));
     RegisterDriver(adapter);

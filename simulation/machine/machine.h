@@ -12,6 +12,7 @@
 
 #include "simulation/adapters/adapter.h"
 #include "simulation/clock/clock.h"
+#include "simulation/desktop/desktop.h"
 #include "simulation/faults/fault_book.h"
 #include "simulation/ledger/ledger.h"
 #include "simulation/machine/io_device.h"
@@ -33,6 +34,7 @@ class Machine {
   const std::string& Name() const { return name_; }
   const std::vector<std::shared_ptr<Adapter>>& Adapters() const { return adapters_; }
   const std::vector<std::shared_ptr<PhysicalDrive>>& PhysicalDrives() const { return physicalDrives_; }
+  simulation::Desktop& Desktop() { return desktop_; }
   simulation::Registry& Registry() { return registry_; }
   FaultBook& Faults() { return faults_; }
   simulation::Ledger& Ledger() { return ledger_; }
@@ -60,6 +62,7 @@ class Machine {
   std::vector<std::shared_ptr<Adapter>> adapters_;
   std::vector<std::shared_ptr<PhysicalDrive>> physicalDrives_;
   simulation::Storelib storelib_;
+  simulation::Desktop desktop_;
   simulation::Registry registry_;
   FaultBook faults_;
   simulation::Ledger ledger_;

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "simulation/adapters/adapter_description.h"
+#include "simulation/desktop/desktop_description.h"
 #include "simulation/drives/drive_descriptions.h"
 #include "simulation/faults/fault.h"
 #include "simulation/registry/registry.h"
@@ -21,6 +22,7 @@ struct MachineDescription {
   std::vector<PhysicalDriveDescription> physicalDrives{};
   /// The controllers behind the vendor's library.
   StorelibDescription storelib{};
+  DesktopDescription desktop{};
   std::vector<RegistryValue> registry{};
   std::vector<FaultRule> faults{};
 };

@@ -10,6 +10,7 @@ namespace orvik::simulation {
 
 namespace {
 
+constexpr std::uint8_t kLbaMode = 0x40;  // of the device register
 constexpr std::uint32_t kBlockSize = 512;
 constexpr std::uint8_t kInquiry = 0x12;
 constexpr std::uint8_t kAtaErrorBit = 0x01;
@@ -138,13 +139,15 @@ StorelibStatus StorelibDrive::ScsiPassThrough(const StorelibRequest& request) co
 StorelibStatus StorelibDrive::SataPassThrough(const StorelibRequest& request) const {
   const auto frame = request.data;
   const Block area{sata_frame::kData, Get(frame, sata_frame::kDataLength)};
-  const auto command = ReadCommandFis(Inside(frame, sata_frame::kCommandFis));
+  auto command = ReadCommandFis(Inside(frame, sata_frame::kCommandFis));
   const bool wellFormed = command && Get(frame, sata_frame::kDeviceId) == deviceId_ && DirectionsAgree(frame) &&
                           Get(frame, sata_frame::kFisLength) == sata_frame::kStatusFis.size &&
                           Holds(frame.size(), area);
   if (!wellFormed) return StorelibStatus::BadParameter;
   const auto* drive = std::get_if<std::shared_ptr<AtaDrive>>(&drive_);
   if (drive == nullptr || scsiDeviceType_ != kScsiDisk) return StorelibStatus::WrongKindOfDevice;
+  // The device register is not the host's here: the controller addresses by LBA.
+  command->device = kLbaMode;
   const auto data = DataArea(frame, area, Get(frame, sata_frame::kDirection), AtaDrive::DirectionOf(*command));
   const auto completion = (*drive)->Execute(*command, data);
   if (!completion) return StorelibStatus::DeviceDoesNotAnswer;

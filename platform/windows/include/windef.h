@@ -31,8 +31,12 @@ using LPCCH = const char*;
 using LPCWCH = const WCHAR*;
 using PVOID = void*;
 using LPVOID = void*;
+using HRESULT = LONG;
+using WPARAM = std::uint64_t;
+using LPARAM = std::int64_t;
 using HANDLE = void*;
-using HWND = void*;
+using HWND = struct HWND__*;
+using HMONITOR = struct HMONITOR__*;
 using HMODULE = struct HINSTANCE__*;
 using FARPROC = void (*)();
 using errno_t = int;
@@ -45,6 +49,11 @@ static_assert(sizeof(void*) == 8, "the stand-ins follow 64-bit Windows");
 inline constexpr BOOL FALSE = 0;
 inline constexpr BOOL TRUE = 1;
 inline constexpr DWORD MAX_PATH = 260;
+
+struct POINT {
+  LONG x;
+  LONG y;
+};
 
 struct GUID {
   std::uint32_t Data1;

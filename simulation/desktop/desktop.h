@@ -1,0 +1,56 @@
+#pragma once
+
+// The user's session: what programs ask of it, and what they do to it.
+
+#include <cstdint>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "simulation/desktop/desktop_description.h"
+
+namespace orvik::simulation {
+
+/// A key that a program pressed or released in the user's place, as the fields of its request.
+struct SyntheticKey {
+  std::uint16_t virtualKey{};
+  std::uint16_t scanCode{};
+  std::uint32_t flags{};
+
+  friend bool operator==(const SyntheticKey&, const SyntheticKey&) = default;
+};
+
+/// May be used from several threads.
+class Desktop {
+ public:
+  explicit Desktop(DesktopDescription description) : state_(std::move(description)) {}
+
+  DesktopDescription State() const;
+  /// Changes the session. When it looks different afterwards, the running application is told as by `AnnounceTheme`.
+  void Change(DesktopDescription state);
+  /// Sends WM_THEMECHANGED to the native event filters of this process's Qt application, on its own thread. Nothing
+  /// happens in a process without one.
+  static void AnnounceTheme();
+
+  /// A system colour as 0xRRGGBB; 0 for an index that has none.
+  std::uint32_t Color(std::uint32_t index) const;
+  /// The folder of the data of all users.
+  std::string ProgramDataFolder() const;
+
+  void RecordKey(const SyntheticKey& key);
+  void RecordForeground(std::uint64_t window);
+  void RecordDpiAwareness(std::uint32_t awareness);
+  std::vector<SyntheticKey> Keys() const;
+  /// The windows that were brought forward, in order.
+  std::vector<std::uint64_t> ForegroundWindows() const;
+  std::vector<std::uint32_t> DpiAwareness() const;
+
+ private:
+  mutable std::mutex mutex_;
+  DesktopDescription state_;
+  std::vector<SyntheticKey> keys_;
+  std::vector<std::uint64_t> foreground_;
+  std::vector<std::uint32_t> awareness_;
+};
+
+}  // namespace orvik::simulation

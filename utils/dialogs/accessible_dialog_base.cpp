@@ -1,0 +1,69 @@
+#include "utils/dialogs/accessible_dialog_base.h"
+
+#include <QAccessibleWidget>
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <skinkit.h>
+
+#include "utils/dialogs/high_contrast_style.h"
+#include "utils/dialogs/icon_recoloring.h"
+#include "utils/dialogs/system_colors.h"
+#include "utils/dialogs/temporary_folder.h"
+
+namespace orvik::utils::accessibility {
+
+namespace {
+
+constexpr int kThemeDelayMilliseconds = 100;
+
+// As a style sheet wants it: there a backslash is an escape.
+QString IconFolder() {
+  return QString::fromStdString(FolderPath(FolderKind::Temporary)).replace(u'\\', u'/');
+}
+
+}  // namespace
+
+AccessibleDialogBase::AccessibleDialogBase(QWidget* parent)
+    : QDialog(parent, {}), filter_(new event_filters::HighContrastEventFilter(this)), systemColors_(SystemColors()) {
+  QCoreApplication::instance()->installNativeEventFilter(filter_);
+  connect(filter_, &event_filters::HighContrastEventFilter::ThemeChanged, this,
+          &AccessibleDialogBase::OnThemeChanged);
+  setAttribute(Qt::WA_TranslucentBackground);
+  normalStyleSheet_ = StyleManager::instance()->Stylesheet();
+  setStyleSheet(normalStyleSheet_);
+  if (IsHighContrastOn()) ApplyHighContrast();
+}
+
+// Deleted, the filter is no longer one of the application's.
+AccessibleDialogBase::~AccessibleDialogBase() {
+  delete filter_;
+}
+
+QAccessibleInterface* AccessibleDialogBase::AccessibleObject() {
+  static auto* const object = new QAccessibleWidget(this, QAccessible::Client, QString());
+  return object;
+}
+
+void AccessibleDialogBase::OnThemeChanged() {
+  QTimer::singleShot(kThemeDelayMilliseconds, this, &AccessibleDialogBase::ReapplyStyle);
+}
+
+void AccessibleDialogBase::ReapplyStyle() {
+  if (IsHighContrastOn()) {
+    ApplyHighContrast();
+  } else {
+    setStyleSheet(normalStyleSheet_);
+  }
+}
+
+void AccessibleDialogBase::ApplyHighContrast() {
+  systemColors_ = SystemColors();
+  const HighContrastColors colors = ColorsForHighContrast(systemColors_);
+  const QString folder = IconFolder();
+  setStyleSheet(HighContrastStyleSheet(normalStyleSheet_, colors, [&](const QString& value, const QString& path) {
+    return RecoloredIcon(value, path, colors.windowText, folder, *this);
+  }));
+}
+
+}  // namespace orvik::utils::accessibility

@@ -1,0 +1,116 @@
+#include "utils/dialogs/dpi.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QScreen>
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <optional>
+
+#include <windows.h>
+
+#include <hostkit.h>
+#include <shellscalingapi.h>
+
+namespace {
+
+// What sizes are made for.
+constexpr int kUnscaledDpi = 96;
+constexpr QSize kReference(800, 600);
+
+/// The system's library for monitor DPI, loaded for as long as it is asked.
+class ScalingLibrary {
+ public:
+  ScalingLibrary() : library_(get_module()->Load("shcore.dll", 1)) {}
+  ScalingLibrary(const ScalingLibrary&) = delete;
+  ScalingLibrary& operator=(const ScalingLibrary&) = delete;
+  ~ScalingLibrary() {
+    if (library_ != nullptr) get_module()->Unload(library_);
+  }
+
+  /// Null when the library or the function is missing. The second argument only tells the function's type.
+  template <typename Function>
+  Function* Find(const char* name, Function* /*type*/) const {
+    return library_ == nullptr ? nullptr : std::bit_cast<Function*>(get_module()->FindSymbol(library_, name));
+  }
+
+ private:
+  void* library_;
+};
+
+using SetAwareness = HRESULT WINAPI(PROCESS_DPI_AWARENESS awareness);
+using GetMonitorDpi = HRESULT WINAPI(HMONITOR monitor, MONITOR_DPI_TYPE type, UINT* dpiX, UINT* dpiY);
+
+std::optional<QSize> MonitorDpi() {
+  const ScalingLibrary library;
+  if (auto* const set = library.Find("SetProcessDpiAwareness", static_cast<SetAwareness*>(nullptr)); set != nullptr)
+    set(PROCESS_PER_MONITOR_DPI_AWARE);
+  auto* const get = library.Find("GetDpiForMonitor", static_cast<GetMonitorDpi*>(nullptr));
+  if (get == nullptr) return std::nullopt;
+  const HMONITOR monitor = MonitorFromWindow(GetDesktopWindow(), MONITOR_DEFAULTTOPRIMARY);
+  UINT x = 0;
+  UINT y = 0;
+  if (get(monitor, MDT_EFFECTIVE_DPI, &x, &y) != S_OK || x == 0 || y == 0) return std::nullopt;
+  return QSize(static_cast<int>(x), static_cast<int>(y));
+}
+
+QSize DetectedDpi() {
+  if (const auto dpi = MonitorDpi()) return *dpi;
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return {kUnscaledDpi, kUnscaledDpi};
+  return {static_cast<int>(screen->logicalDotsPerInchX()), static_cast<int>(screen->logicalDotsPerInchY())};
+}
+
+}  // namespace
+
+const Dpi* Dpi::Instance() {
+  static QPointer<Dpi>& instance = *new QPointer<Dpi>;
+  const QWidgetList topLevel = QApplication::topLevelWidgets();
+  if (instance.isNull() && !topLevel.isEmpty()) {
+    static const QSize dpi = DetectedDpi();
+    instance = new Dpi(topLevel.first(), {Step(dpi.width()), Step(dpi.height())});
+  }
+  return instance;
+}
+
+Dpi::Dpi(QWidget* parent, QSize dpi) : QWidget(parent), horizontal_(dpi.width()), vertical_(dpi.height()) {
+  // It only stands for a screen: shown with its parent it would lie over what is there.
+  hide();
+}
+
+int Dpi::Step(int dpi) {
+  struct Row {
+    int below;
+    int step;
+  };
+  static constexpr std::array<Row, 4> kSteps = {{{120, 96}, {144, 120}, {168, 144}, {192, 168}}};
+  const auto* const row = std::ranges::find_if(kSteps, [dpi](const Row& each) { return dpi < each.below; });
+  return row == kSteps.end() ? 192 : row->step;
+}
+
+QSize Dpi::Scaled(QSize size, int dpi, QSize screen) {
+  const double factor = double{1} * dpi / kUnscaledDpi;
+  const QSize room = screen.expandedTo(kReference);
+  const double width = std::min<double>(kReference.width() * factor, room.width());
+  const double height = std::min<double>(width * kReference.height() / kReference.width(), room.height());
+  const auto scaled = [](int length, double reference, int unscaled) {
+    return static_cast<int>(std::min<double>(length * reference / unscaled, QWIDGETSIZE_MAX));
+  };
+  return {scaled(size.width(), width, kReference.width()), scaled(size.height(), height, kReference.height())};
+}
+
+QSize Dpi::Scaled(QSize size) const {
+  const QList<QScreen*> screens = QGuiApplication::screens();
+  return Scaled(size, horizontal_, screens.isEmpty() ? kReference : screens.first()->size());
+}
+
+int Dpi::metric(PaintDeviceMetric metric) const {
+  switch (metric) {
+    case PdmDpiX:
+    case PdmDpiY:
+    case PdmPhysicalDpiX:
+    case PdmPhysicalDpiY: return horizontal_;
+    default: return QWidget::metric(metric);
+  }
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QSize>
+#include <QWidget>
+
+/// The DPI of the primary monitor in five steps, and the sizes of dialogs that follow from it. GUI thread only.
+class Dpi : public QWidget {
+ public:
+  /// The process's own, made on first use as a hidden child of the application's first top-level widget, and made
+  /// again when that has gone; null while there is no top-level widget. The monitor is asked only once.
+  static const Dpi* Instance();
+
+  /// 96, 120, 144, 168 or 192: the step that `dpi` lies on.
+  static int Step(int dpi);
+  /// A size made for 96 DPI on `dpi`, as far as the screen allows.
+  static QSize Scaled(QSize size, int dpi, QSize screen);
+  /// The size on the first screen.
+  QSize Scaled(QSize size) const;
+
+ protected:
+  int metric(PaintDeviceMetric metric) const override;
+
+ private:
+  Dpi(QWidget* parent, QSize dpi);
+
+  int horizontal_;
+  int vertical_;
+};
