@@ -10,6 +10,7 @@
 #include <string>
 
 #include "simulation/json/load_machine.h"
+#include "simulation/json/readers.h"
 #include "simulation/text/fold_case.h"
 
 namespace orvik::simulation {
@@ -39,6 +40,14 @@ class MachineDescriptions : public testing::Test {
   static std::string Drive(const std::string& rest) {
     return Csmi(R"("drives": [{"serial": "s", "sectors": 1, "?": 0, )" + rest + "}]");
   }
+  static std::string Storelib(const std::string& rest) {
+    return Document(R"("storelib": {"controllers": [{"controllerId": 1, "product": "p", )" + rest + "}]}");
+  }
+  static std::string StorelibDrives(const std::string& rest) {
+    return Storelib(R"("drives": [{"deviceId": 8, "count": 3, "drive": {"kind": "SATA", "model": "m", "serial": "S08",
+                                  "sectors": 1}}, )" +
+                    rest);
+  }
   static std::string Csmi(const std::string& rest) { return Adapter(R"("csmi": {)" + rest + "}"); }
 
   // Tests may run side by side.
@@ -64,6 +73,18 @@ TEST_F(MachineDescriptions, AreRefusedWithPlaceExpectationAndFinding) {
       {Document(R"("faults": [{"operation": "*"}])"), R"(faults[0]: expected an effect such as "error", found none)"},
       {Document(R"("faults": [{"operation": "DeviceIoControl", "patch": [{"offset": 1, "bytes": "ABC"}]}])"),
        R"(faults[0].patch[0].bytes: expected a text of pairs of hexadecimal digits, found the text "ABC")"},
+      {Document(R"("storelib": {"controllers": [{"controllerId": 1, "product": "p"}, {"controllerId": 1}]})"),
+       "storelib.controllers[1].controllerId: expected a controller id of its own, found the controller id 1 again"},
+      {StorelibDrives(R"({"deviceId": 10, "drive": {"kind": "SATA", "model": "m", "serial": "", "sectors": 1}}])"),
+       "storelib.controllers[0].drives[1].deviceId: expected a device id of its own, found the device id 10 again"},
+      {StorelibDrives(R"({"deviceId": 1, "count": 2,
+                          "drive": {"kind": "SATA", "model": "m", "serial": "S9", "sectors": 1}}])"),
+       "storelib.controllers[0].drives[1].drive: expected a serial number that can be counted up, found an object"},
+      {StorelibDrives(R"({"deviceId": 11, "deviceType": "enclosure",
+                          "drive": {"kind": "SAS", "vendor": "v", "product": "p", "serial": "s", "sectors": 1}}],
+          "logicalDrives": [{"targetId": 0, "count": 2, "level": "RAID 1", "blocks": 1, "members": [8, 9]}])"),
+       "storelib.controllers[0].logicalDrives[0].members: expected device ids of disks of this controller, "
+       "found the device id 11"},
   };
   for (const auto& [text, error] : rows) EXPECT_EQ(Error(text), error) << text;
   std::filesystem::remove(path);
@@ -117,6 +138,36 @@ TEST_F(MachineDescriptions, CarryEveryKeyIntoTheMachine) {
   EXPECT_EQ(effects.patches.at(0).bytes, (std::vector<std::uint8_t>{0x0A, 0xFF}));
 }
 
+// Repetitions included.
+TEST_F(MachineDescriptions, CarryStorelibControllersIntoTheMachine) {
+  const std::string text = StorelibDrives(R"(
+      {"deviceId": 4, "interfaceByte": 1, "drive": {"kind": "SATA", "model": "m", "serial": "", "sectors": 1}}],
+      "serial": "s", "interfaces": ["SPI", "SAS 6G"], "raidLevels": ["RAID 1", "RAID 60"], "batterySupported": false,
+      "battery": {"type": 3, "packMissing": true, "temperatureHigh": true},
+      "logicalDrives": [{"targetId": 254, "count": 2, "level": "RAID 10", "state": 9, "sequenceNumber": 2, "blocks": 7,
+                         "consistent": false, "members": [8],
+                         "check": {"seconds": 10, "runningAt": 5, "endsConsistent": false, "startStatus": 24}}],
+      "enclosures": [{"enclosureId": 5, "faultByte": 6}])");
+  Complaint complaint("");
+  const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
+  const StorelibControllerDescription read = ReadMachine(Node(object, "", complaint)).storelib.controllers.at(0);
+  EXPECT_EQ(std::tie(read.serial, read.interfaces, read.raidLevels, read.batterySupported, read.battery.type),
+            std::tuple("s", 0x11, 0x82, false, 3));
+  EXPECT_EQ(std::tie(read.battery.packMissing, read.battery.lowVoltage, read.battery.temperatureHigh),
+            std::tuple(true, false, true));
+  EXPECT_EQ(read.drives.at(2).deviceId, 10);
+  EXPECT_EQ(std::get<SataDriveDescription>(read.drives.at(2).drive).serial, "S10");
+  EXPECT_EQ(read.drives.at(3).interfaceByte, 1);
+  const StorelibLogicalDriveDescription& drive = read.logicalDrives.at(1);
+  EXPECT_EQ(std::tie(drive.targetId, drive.primaryLevel, drive.secondaryLevel, drive.sequenceNumber, drive.blocks),
+            std::tuple(255, 1, 3, 2, 7U));
+  EXPECT_EQ(std::tuple(static_cast<int>(drive.state), drive.consistent, drive.members.at(0)),
+            std::tuple(9, false, 9));
+  EXPECT_EQ(std::tie(drive.check.seconds, drive.check.runningAt, drive.check.endsConsistent, drive.check.startStatus),
+            std::tuple(10U, 5, false, 24U));
+  EXPECT_EQ(read.enclosures.at(0).faultByte, 6);
+}
+
 // The path of an interface tells the same device as the instance id, and no two are the same.
 TEST_F(MachineDescriptions, ComeAsSamples) {
   for (const auto& entry : std::filesystem::directory_iterator(ORVIK_MACHINES_DIR)) {
@@ -163,6 +214,16 @@ TEST_F(MachineDescriptions, HaveTheKeysOfTheirSchema) {
       {"nvmeDrive", Drive(R"("kind": "NVMe", "model": "m")")},
       {"phy", Csmi(R"("phys": [{"?": 0}])")},
       {"raidSet", Csmi(R"("raidSets": [{"type": 0, "capacityMiB": 0, "members": [], "?": 0}])")},
+      {"storelib", Document(R"("storelib": {"?": 0})")},
+      {"storelibController", Storelib(R"("?": 0)")},
+      {"storelibBattery", Storelib(R"("battery": {"?": 0})")},
+      {"storelibDrive", StorelibDrives(R"({"deviceId": 1, "?": 0,
+                           "drive": {"kind": "SATA", "model": "m", "serial": "", "sectors": 1}}])")},
+      {"storelibLogicalDrive",
+       Storelib(R"("logicalDrives": [{"targetId": 0, "level": "RAID 1", "blocks": 1, "members": [], "?": 0}])")},
+      {"storelibCheck", Storelib(R"("logicalDrives": [{"targetId": 0, "level": "RAID 1", "blocks": 1, "members": [],
+                                                       "check": {"?": 0}}])")},
+      {"storelibEnclosure", Storelib(R"("enclosures": [{"enclosureId": 0, "?": 0}])")},
       {"registryValue", Document(R"("registry": [{"key": "", "name": "", "text": "", "?": 0}])")},
       {"fault", Document(R"("faults": [{"operation": "DeviceIoControl", "?": 0}])")},
   };
