@@ -4,6 +4,7 @@
 #include "host/display/display.h"
 
 int main(int argc, char** argv) {
+  orvik::host::QuietToolkit();
   orvik::host::ChooseDisplay();
   // The module asks its questions in windows of its own.
   const QApplication application(argc, argv);

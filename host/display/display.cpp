@@ -2,7 +2,21 @@
 
 #include <QGuiApplication>
 
+#include "host/terminal/terminal.h"
+
 namespace orvik::host {
+
+namespace {
+
+void WriteGraveMessages(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+  if (type == QtCriticalMsg || type == QtFatalMsg) Write(Stream::Error, (message + u'\n').toUtf8());
+}
+
+}  // namespace
+
+void QuietToolkit() {
+  if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES")) qInstallMessageHandler(WriteGraveMessages);
+}
 
 bool HasDisplay() {
   const QString platform = QGuiApplication::platformName();

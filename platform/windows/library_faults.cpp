@@ -1,6 +1,5 @@
 #include "platform/windows/library_faults.h"
 
-#include <bit>
 #include <string_view>
 
 #include "platform/windows/failure.h"
@@ -22,7 +21,7 @@ bool IsVendorLibrary(std::string_view path) {
 // On Windows a function may also be looked for by its number, in place of the address of its name.
 bool IsEntryPoint(LPCSTR name) {
   constexpr ULONG_PTR kLargestNumber = 0xFFFF;
-  return std::bit_cast<ULONG_PTR>(name) > kLargestNumber && std::string_view(name) == "ProcessLibCommand";
+  return reinterpret_cast<ULONG_PTR>(name) > kLargestNumber && std::string_view(name) == "ProcessLibCommand";
 }
 
 }  // namespace

@@ -37,6 +37,9 @@ StorelibController::LogicalDrive* StorelibController::FindLogicalDrive(std::uint
   return found == logicalDrives_.end() ? nullptr : &*found;
 }
 
+// Nothing of what these answer from ever changes, and a drive executes one command at a time by itself: no lock.
+// NOLINTBEGIN(readability-make-member-function-const): commands have one signature
+
 StorelibStatus StorelibController::Information(const StorelibRequest& request) {
   const auto block = request.CleanData();
   Set(block, controller_info::kInterfaces, description_.interfaces);
@@ -62,6 +65,25 @@ StorelibStatus StorelibController::PhysicalDriveList(const StorelibRequest& requ
   }
   return StorelibStatus::Success;
 }
+
+StorelibStatus StorelibController::PhysicalDriveInformation(const StorelibRequest& request) {
+  const StorelibDrive* drive = FindDrive(request.DeviceId());
+  if (drive == nullptr) return StorelibStatus::NoSuchDevice;
+  drive->FillInformation(request.CleanData());
+  return StorelibStatus::Success;
+}
+
+StorelibStatus StorelibController::ScsiPassThrough(const StorelibRequest& request) {
+  const StorelibDrive* drive = FindDrive(request.DeviceId());
+  return drive == nullptr ? StorelibStatus::NoSuchDevice : drive->ScsiPassThrough(request);
+}
+
+StorelibStatus StorelibController::SataPassThrough(const StorelibRequest& request) {
+  const StorelibDrive* drive = FindDrive(request.DeviceId());
+  return drive == nullptr ? StorelibStatus::NoSuchDevice : drive->SataPassThrough(request);
+}
+
+// NOLINTEND(readability-make-member-function-const)
 
 StorelibStatus StorelibController::EnclosureList(const StorelibRequest& request) {
   const std::scoped_lock lock(mutex_);
@@ -93,13 +115,6 @@ StorelibStatus StorelibController::BatteryStatus(const StorelibRequest& request)
   const auto block = request.CleanData();
   Set(block, battery_status::kType, description_.battery.type);
   Set(block, battery_status::kStatus, StatusBits(description_.battery));
-  return StorelibStatus::Success;
-}
-
-StorelibStatus StorelibController::PhysicalDriveInformation(const StorelibRequest& request) {
-  const StorelibDrive* drive = FindDrive(request.DeviceId());
-  if (drive == nullptr) return StorelibStatus::NoSuchDevice;
-  drive->FillInformation(request.CleanData());
   return StorelibStatus::Success;
 }
 
@@ -166,17 +181,6 @@ StorelibStatus StorelibController::CheckProgress(const StorelibRequest& request)
   Set(block, check_progress::kFlags, check_progress::kRunning);
   Set(block, check_progress::kProgress, *progress);
   return StorelibStatus::Success;
-}
-
-// No lock: a drive takes its time, and executes one command at a time by itself.
-StorelibStatus StorelibController::ScsiPassThrough(const StorelibRequest& request) {
-  const StorelibDrive* drive = FindDrive(request.DeviceId());
-  return drive == nullptr ? StorelibStatus::NoSuchDevice : drive->ScsiPassThrough(request);
-}
-
-StorelibStatus StorelibController::SataPassThrough(const StorelibRequest& request) {
-  const StorelibDrive* drive = FindDrive(request.DeviceId());
-  return drive == nullptr ? StorelibStatus::NoSuchDevice : drive->SataPassThrough(request);
 }
 
 bool StorelibController::SetState(std::uint8_t targetId, StorelibDriveState state) {

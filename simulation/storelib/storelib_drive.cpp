@@ -84,11 +84,9 @@ StorelibDrive::StorelibDrive(const StorelibPhysicalDriveDescription& description
                              const std::shared_ptr<const Clock>& clock)
     : deviceId_(description.deviceId),
       scsiDeviceType_(description.scsiDeviceType),
-      interface_(0),
       drive_(MakeDrive(description.drive, clock)),
-      scsi_(ScsiSide(drive_, clock)) {
-  interface_ = description.interfaceByte.value_or(InterfaceOf(drive_));
-}
+      interface_(description.interfaceByte.value_or(InterfaceOf(drive_))),
+      scsi_(ScsiSide(drive_, clock)) {}
 
 void StorelibDrive::FillInformation(std::span<std::uint8_t> block) const {
   Set(block, physical_drive_info::kDeviceId, deviceId_);

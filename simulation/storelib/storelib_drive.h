@@ -32,8 +32,8 @@ class StorelibDrive {
 
   std::uint16_t deviceId_;
   std::uint8_t scsiDeviceType_;
-  std::uint8_t interface_;
   Drive drive_;
+  std::uint8_t interface_;
   // The drive itself, or what the controller shows of a SATA drive to SCSI commands; null for other drives.
   std::shared_ptr<ScsiDrive> scsi_;
 };
