@@ -19,7 +19,7 @@ QImage Picture(GenericInputDialog& dialog) {
   QPixmap picture(dialog.size() + QSize(2 * margin, 2 * margin));
   picture.fill(QColor(0x5B, 0x6B, 0x82));
   QPainter(&picture).drawPixmap(margin, margin, dialog.grab());
-  return picture.toImage().convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither);
+  return picture.toImage();
 }
 
 std::string Translated(const char* key) {
