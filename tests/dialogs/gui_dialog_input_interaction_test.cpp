@@ -90,8 +90,8 @@ TEST_F(GuiDialogInputInteractionTest, WorkerWaitsForTheAnswer) {
   GuiDialogInputInteraction interaction(request.get(), "RAID", false, true);
   Interact(interaction, [](QWidget& dialog) {
     EXPECT_TRUE(dialog.isModal());
-    EXPECT_EQ(dialog.windowFlags() & Qt::FramelessWindowHint, Qt::FramelessWindowHint);
-    EXPECT_EQ(dialog.windowFlags() & Qt::WindowStaysOnTopHint, 0);
+    EXPECT_TRUE(dialog.windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_FALSE(dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     dialog.findChild<QPushButton*>("generic_input_button_cancel")->click();
   });
   EXPECT_TRUE(shown_);
