@@ -49,6 +49,7 @@ exports() {
   [ "$found" = "$(printf '%s\n' "$@" | sort | xargs)" ] || broken "$library exports: $found"
 }
 exports ovk_module_raid.so CreateModuleInstance DestroyModuleInstance
+exports skinkit.so _ZN12StyleManager8instanceEv _ZNK12StyleManager10StylesheetEv
 exports hostkit.so get_filesystem get_module get_number_handler get_string_handler get_temporary_path get_timer
 exports storelib.dll ProcessLibCommand
 

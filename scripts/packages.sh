@@ -3,7 +3,7 @@
 set -euo pipefail
 
 declare -A groups=(
-  [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6svg6 qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+  [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
            libcli11-dev libgtest-dev googletest libvalijson-dev"
   [pictures]="fonts-dejavu-core"
   [lint]="clang-format clang-tidy binutils"

@@ -5,6 +5,8 @@
 
 #include <winioctl.h>
 #include <setupapi.h>
+#include <shellscalingapi.h>
+#include <shlobj.h>
 // Needs what comes before it.
 #include <ntddscsi.h>
 
@@ -28,6 +30,15 @@ static_assert(sizeof(SP_DEVICE_INTERFACE_DATA) == 32 && offsetof(SP_DEVICE_INTER
 static_assert(sizeof(SP_DEVICE_INTERFACE_DETAIL_DATA_W) == 8);
 static_assert(offsetof(SP_DEVICE_INTERFACE_DETAIL_DATA_W, DevicePath) == 4);
 
+static_assert(sizeof(MSG) == 48 && offsetof(MSG, message) == 8 && sizeof(HRESULT) == 4);
+static_assert(sizeof(HIGHCONTRASTW) == 16 && offsetof(HIGHCONTRASTW, dwFlags) == 4);
+static_assert(sizeof(INPUT) == 40 && offsetof(INPUT, ki) == 8 && sizeof(MOUSEINPUT) == 32);
+static_assert(offsetof(KEYBDINPUT, wScan) == 2 && offsetof(KEYBDINPUT, dwFlags) == 4);
+
+static_assert(WM_THEMECHANGED == 0x031A && SPI_GETHIGHCONTRAST == 0x42 && SPI_GETSCREENREADER == 0x46);
+static_assert(HCF_HIGHCONTRASTON == 1 && HCF_AVAILABLE == 2 && READ_CONTROL == 0x20000);
+static_assert(INPUT_KEYBOARD == 1 && KEYEVENTF_KEYUP == 2 && VK_LEFT == 0x25 && VK_NUMPAD1 == 0x61);
+static_assert(MONITOR_DEFAULTTOPRIMARY == 1 && MDT_EFFECTIVE_DPI == 0 && PROCESS_PER_MONITOR_DPI_AWARE == 2);
 static_assert(GENERIC_READ == 0x80000000U && GENERIC_WRITE == 0x40000000U);
 static_assert(FILE_SHARE_READ == 1 && FILE_SHARE_WRITE == 2 && OPEN_EXISTING == 3);
 static_assert(FILE_FLAG_OVERLAPPED == 0x40000000U);
@@ -48,6 +59,11 @@ static_assert(std::is_same_v<decltype(SetThreadAffinityMask(nullptr, 0)), DWORD_
 TEST(WindowsHeadersTest, PseudoHandlesHaveTheirValues) {
   EXPECT_EQ(reinterpret_cast<ULONG_PTR>(INVALID_HANDLE_VALUE), ~ULONG_PTR{0});
   EXPECT_EQ(reinterpret_cast<ULONG_PTR>(HKEY_LOCAL_MACHINE), 0xFFFFFFFF80000002U);
+}
+
+TEST(WindowsHeadersTest, ProgramDataIsTheKnownFolder) {
+  const GUID expected = {0x62AB5D82, 0xFDC1, 0x4DC3, {0xA9, 0xDD, 0x07, 0x0D, 0x1D, 0x49, 0x5D, 0x97}};
+  EXPECT_TRUE(FOLDERID_ProgramData == expected);
 }
 
 TEST(WindowsHeadersTest, LastErrorIsPerCall) {

@@ -111,6 +111,8 @@ TEST_F(MachineDescriptions, CarryEveryKeyIntoTheMachine) {
                              "stripeKiB": 16, "members": [{"drive": 1, "status": "degraded"},
                                                           {"model": "m", "serial": "s"}]}],
                "maxDrivesPerSet": 0}}],
+    "desktop": {"highContrast": true, "colors": [{"index": 30, "color": "0a0B0c"}], "screenReader": true, "narrator": true,
+                "dpi": 192, "dpiLibrary": false, "programData": "p", "userName": "u"},
     "registry": [{"key": "a", "name": "b", "text": "c"}],
     "faults": [{"operation": "DeviceIoControl", "call": 1, "returnCode": 1, "garble": 2, "truncate": 3,
                 "patch": [{"offset": 1, "bytes": "0AFF"}]}]})");
@@ -133,6 +135,8 @@ TEST_F(MachineDescriptions, CarryEveryKeyIntoTheMachine) {
   EXPECT_EQ(csmi.raidSets.at(0).capacityMiB, 0xFFFFFFFFU);
   EXPECT_EQ(csmi.raidSets.at(0).members.at(0).status, CsmiDriveStatus::Degraded);
   EXPECT_EQ(machine.Registry().Find("A", "B"), "c");
+  EXPECT_EQ(machine.Desktop().State(),
+            (DesktopDescription{true, {{30, 0x0A0B0C}}, true, true, 192, false, "p", "u"}));
   const FaultEffects effects = machine.Faults().OnCall({"DeviceIoControl"});
   EXPECT_EQ(effects.truncateTo, 3U);
   EXPECT_EQ(effects.patches.at(0).bytes, (std::vector<std::uint8_t>{0x0A, 0xFF}));
@@ -224,6 +228,7 @@ TEST_F(MachineDescriptions, HaveTheKeysOfTheirSchema) {
       {"storelibCheck", Storelib(R"("logicalDrives": [{"targetId": 0, "level": "RAID 1", "blocks": 1, "members": [],
                                                        "check": {"?": 0}}])")},
       {"storelibEnclosure", Storelib(R"("enclosures": [{"enclosureId": 0, "?": 0}])")},
+      {"desktop", Document(R"("desktop": {"?": 0})")},
       {"registryValue", Document(R"("registry": [{"key": "", "name": "", "text": "", "?": 0}])")},
       {"fault", Document(R"("faults": [{"operation": "DeviceIoControl", "?": 0}])")},
   };

@@ -55,20 +55,20 @@ std::optional<QSize> MonitorDpi() {
   return QSize(static_cast<int>(x), static_cast<int>(y));
 }
 
-QSize DetectedDpi() {
+}  // namespace
+
+QSize Dpi::Detected() {
   if (const auto dpi = MonitorDpi()) return *dpi;
   const QScreen* screen = QGuiApplication::primaryScreen();
   if (screen == nullptr) return {kUnscaledDpi, kUnscaledDpi};
   return {static_cast<int>(screen->logicalDotsPerInchX()), static_cast<int>(screen->logicalDotsPerInchY())};
 }
 
-}  // namespace
-
 const Dpi* Dpi::Instance() {
   static QPointer<Dpi>& instance = *new QPointer<Dpi>;
   const QWidgetList topLevel = QApplication::topLevelWidgets();
   if (instance.isNull() && !topLevel.isEmpty()) {
-    static const QSize dpi = DetectedDpi();
+    static const QSize dpi = Detected();
     instance = new Dpi(topLevel.first(), {Step(dpi.width()), Step(dpi.height())});
   }
   return instance;
@@ -90,7 +90,7 @@ int Dpi::Step(int dpi) {
 }
 
 QSize Dpi::Scaled(QSize size, int dpi, QSize screen) {
-  const double factor = double{1} * dpi / kUnscaledDpi;
+  const double factor = static_cast<double>(dpi) / kUnscaledDpi;
   const QSize room = screen.expandedTo(kReference);
   const double width = std::min<double>(kReference.width() * factor, room.width());
   const double height = std::min<double>(width * kReference.height() / kReference.width(), room.height());

@@ -10,6 +10,8 @@ class Dpi : public QWidget {
   /// again when that has gone; null while there is no top-level widget. The monitor is asked only once.
   static const Dpi* Instance();
 
+  /// What the system says about the primary monitor, or else Qt about the screen.
+  static QSize Detected();
   /// 96, 120, 144, 168 or 192: the step that `dpi` lies on.
   static int Step(int dpi);
   /// A size made for 96 DPI on `dpi`, as far as the screen allows.

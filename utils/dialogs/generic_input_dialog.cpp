@@ -111,8 +111,10 @@ void GenericInputDialog::SetWidth() {
   const QFontMetrics metrics(QApplication::font());
   const int wanted = metrics.horizontalAdvance(QString::fromStdString(request_->title)) + kRoomBesideTitle;
   const int width = std::max(wanted, kLeastWidth);
-  setFixedWidth(ScaledWidth(width));
-  ui_->text->setFixedWidth(ScaledWidth(width - kRoomBesideText));
+  // A title that is wider than the screen would take the buttons beyond it.
+  const int room = std::max(screen()->size().width(), kLeastWidth);
+  setFixedWidth(std::min(ScaledWidth(width), room));
+  ui_->text->setFixedWidth(std::min(ScaledWidth(width - kRoomBesideText), room - kRoomBesideText));
 }
 
 void GenericInputDialog::ShowIconAndTitle() {

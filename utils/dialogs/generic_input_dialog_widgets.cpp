@@ -48,6 +48,8 @@ void GenericInputDialogWidgets::SetUpHeader() {
   title = Make<QLabel>(QStringLiteral("generic_input_header_label"), header);
   closeButton = Make<QPushButton>(QStringLiteral("generic_input_header_close"), header);
   closeButton->setFlat(true);
+  // Otherwise Enter would press it.
+  closeButton->setAutoDefault(false);
   closeButton->setFocusPolicy(Qt::StrongFocus);
   closeButton->setCursor(Qt::PointingHandCursor);
   for (QWidget* widget :

@@ -14,12 +14,12 @@
 namespace {
 
 // Before a window of another colour, so that the corners can be told from what is behind them.
-QPixmap Picture(GenericInputDialog& dialog) {
+QImage Picture(GenericInputDialog& dialog) {
   const int margin = dialog.fontMetrics().height();
   QPixmap picture(dialog.size() + QSize(2 * margin, 2 * margin));
   picture.fill(QColor(0x5B, 0x6B, 0x82));
   QPainter(&picture).drawPixmap(margin, margin, dialog.grab());
-  return picture;
+  return picture.toImage();
 }
 
 std::string Translated(const char* key) {

@@ -1,0 +1,46 @@
+#pragma once
+
+// The machine that a dialog test runs on, and the questions that it asks.
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/input_interaction.h"
+#include "simulation/machine/current_machine.h"
+
+namespace orvik::testing {
+
+class DesktopMachine : public ::testing::Test {
+ protected:
+  DesktopMachine() { Install({}); }
+  ~DesktopMachine() override {
+    EXPECT_EQ(machine->Ledger().OutstandingTotal(), 0U);
+    EXPECT_EQ(machine->Ledger().InvalidReleases(), 0U);
+  }
+
+  void Install(simulation::DesktopDescription desktop) {
+    desktop.programData = folder.path().toStdString();
+    machine = std::make_shared<simulation::Machine>(simulation::MachineDescription{.desktop = std::move(desktop)});
+    simulation::InstallMachine(machine);
+  }
+
+  QTemporaryDir folder;
+  std::shared_ptr<simulation::Machine> machine;
+};
+
+/// `kind` and `buttons` as a request has them.
+inline std::unique_ptr<InputRequest> Question(std::uint32_t kind, std::uint32_t buttons) {
+  auto request = std::make_unique<InputRequest>();
+  request->answer = 99;
+  request->title = "TITLE";
+  request->text = "FIRST SECOND";
+  request->kind = kind;
+  request->buttons = buttons;
+  return request;
+}
+
+}  // namespace orvik::testing
