@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QTranslator>
-#include <cstdio>
+#include <iostream>
 
 #include "simulation/machine/current_machine.h"
 #include "utils/dialogs/generic_input_dialog.h"
@@ -49,7 +49,7 @@ int main(int argc, char** argv) {
   const QStringList arguments = QApplication::arguments();
   QTranslator translator;
   if (arguments.size() != 4 || !translator.load(arguments.at(3))) {
-    std::fputs("dialog_images FOLDER DPI TRANSLATION\n", stderr);
+    std::cerr << "dialog_images FOLDER DPI TRANSLATION\n";
     return 2;
   }
   QCoreApplication::installTranslator(&translator);

@@ -39,7 +39,7 @@ TaskMemories& Memories() {
 PWSTR HandOut(windows::WideString text, std::shared_ptr<simulation::Machine> machine) {
   machine->Ledger().Take(simulation::Resource::Buffer);
   auto memory = std::make_unique<TaskMemory>(TaskMemory{std::move(text), std::move(machine)});
-  PWSTR const address = memory->text.data();
+  PWSTR address = memory->text.data();
   const std::scoped_lock lock(Memories().mutex);
   Memories().held[address] = std::move(memory);
   return address;

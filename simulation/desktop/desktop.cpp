@@ -58,7 +58,7 @@ std::uint32_t Desktop::Color(std::uint32_t index) const {
 }
 
 std::string Desktop::ProgramDataFolder() const {
-  if (const std::string folder = State().programData; !folder.empty()) return folder;
+  if (std::string folder = State().programData; !folder.empty()) return folder;
   std::error_code error;
   const auto folder = std::filesystem::temp_directory_path(error) / ("orvik-program-data-" + AccountName());
   const std::u8string text = folder.u8string();

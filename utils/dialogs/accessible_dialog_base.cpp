@@ -46,7 +46,7 @@ QAccessibleInterface* AccessibleDialogBase::AccessibleObject() {
 }
 
 void AccessibleDialogBase::OnThemeChanged() {
-  QTimer::singleShot(kThemeDelayMilliseconds, this, &AccessibleDialogBase::ReapplyStyle);
+  QTimer::singleShot(kThemeDelayMilliseconds, this, [this] { ReapplyStyle(); });
 }
 
 void AccessibleDialogBase::ReapplyStyle() {

@@ -24,7 +24,7 @@ class AccessibleDialogBase : public QDialog {
   /// valid any more when that has gone.
   virtual QAccessibleInterface* AccessibleObject();
 
- public Q_SLOTS:
+ protected Q_SLOTS:
   /// Applies the style that the system wants, a moment later, because its colours change one after the other.
   void OnThemeChanged();
 

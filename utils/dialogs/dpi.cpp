@@ -48,7 +48,7 @@ std::optional<QSize> MonitorDpi() {
     set(PROCESS_PER_MONITOR_DPI_AWARE);
   auto* const get = library.Find("GetDpiForMonitor", static_cast<GetMonitorDpi*>(nullptr));
   if (get == nullptr) return std::nullopt;
-  const HMONITOR monitor = MonitorFromWindow(GetDesktopWindow(), MONITOR_DEFAULTTOPRIMARY);
+  HMONITOR monitor = MonitorFromWindow(GetDesktopWindow(), MONITOR_DEFAULTTOPRIMARY);
   UINT x = 0;
   UINT y = 0;
   if (get(monitor, MDT_EFFECTIVE_DPI, &x, &y) != S_OK || x == 0 || y == 0) return std::nullopt;

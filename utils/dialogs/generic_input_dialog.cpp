@@ -7,8 +7,7 @@
 #include <QScreen>
 #include <QSpacerItem>
 #include <algorithm>
-#include <array>
-#include <span>
+#include <utility>
 
 #include "utils/dialogs/answer_buttons.h"
 #include "utils/dialogs/dpi.h"
@@ -44,11 +43,11 @@ QString IconName(std::uint32_t kind) {
 
 }  // namespace
 
-GenericInputDialog::GenericInputDialog(InputRequest* request, const std::string& translationContext, QWidget* parent)
+GenericInputDialog::GenericInputDialog(InputRequest* request, std::string translationContext, QWidget* parent)
     : AccessibleDialogBase(parent),
       request_(request),
       ui_(std::make_unique<GenericInputDialogWidgets>()),
-      translationContext_(translationContext) {
+      translationContext_(std::move(translationContext)) {
   ui_->SetUp(*this);
   setWindowTitle(TranslatedByHost("APPLICATION_NAME"));
   request_->answer = 0;

@@ -19,7 +19,7 @@ class GenericInputDialog : public orvik::utils::accessibility::AccessibleDialogB
  public:
   /// `request` stays the caller's and must outlive the dialog; its answer is 0 until a button is pressed. Title, text
   /// and fields are translated in `translationContext`.
-  GenericInputDialog(InputRequest* request, const std::string& translationContext, QWidget* parent);
+  GenericInputDialog(InputRequest* request, std::string translationContext, QWidget* parent);
   GenericInputDialog(const GenericInputDialog&) = delete;
   GenericInputDialog& operator=(const GenericInputDialog&) = delete;
   ~GenericInputDialog() override;
@@ -27,17 +27,17 @@ class GenericInputDialog : public orvik::utils::accessibility::AccessibleDialogB
   /// Brings the window forward and runs it until it is closed.
   int exec() override;
 
- public Q_SLOTS:
-  /// Closes the dialog without an answer.
-  void OnClose();
-  /// Takes the answer of the button with this id and closes the dialog.
-  void OnAnswer(int id);
-
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+
+ public Q_SLOTS:
+  /// Closes the dialog without an answer.
+  void OnClose();
+  /// Takes the answer of the button with this id and closes the dialog.
+  void OnAnswer(int id);
 
  private:
   QString Translated(const std::string& key) const;

@@ -7,7 +7,7 @@
 bool IsNarratorRunning() {
   BOOL screenReader = FALSE;
   if (SystemParametersInfoW(SPI_GETSCREENREADER, 0, &screenReader, 0) != FALSE && screenReader != FALSE) return true;
-  const HANDLE mutex = OpenMutexW(READ_CONTROL, FALSE, TEXT("NarratorRunning"));
+  HANDLE mutex = OpenMutexW(READ_CONTROL, FALSE, TEXT("NarratorRunning"));
   if (mutex == nullptr) return false;
   const orvik::utils::UniqueHandle closes(mutex);
   return true;
