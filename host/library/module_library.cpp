@@ -6,6 +6,8 @@
 #include <QLibrary>
 #include <exception>
 
+#include "host/library/simulation_folder.h"
+
 namespace orvik::host {
 namespace {
 
@@ -20,9 +22,10 @@ constexpr QLatin1String kSimulatedModule("ovk_module_raid_simulated");
 // Without a folder of its own a name would be looked for along the system's library path.
 QString LibraryPath(const QString& file, bool simulated) {
   if (!file.isEmpty()) return QFileInfo(file).absoluteFilePath();
-  const QDir folder(QCoreApplication::applicationDirPath());
-  if (simulated && folder.exists(kSimulatedModule + kSuffix)) return folder.filePath(kSimulatedModule + kSuffix);
-  return folder.filePath(kInstalledModule + kSuffix);
+  const QDir simulation = SimulationFolder();
+  const QString variant = kSimulatedModule + kSuffix;
+  if (simulated && simulation.exists(variant)) return simulation.filePath(variant);
+  return QDir(QCoreApplication::applicationDirPath()).filePath(kInstalledModule + kSuffix);
 }
 
 QString Problem(const QString& path, const QString& found) {

@@ -1,8 +1,9 @@
 #include "host/library/simulation_library.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QLibrary>
+
+#include "host/library/simulation_folder.h"
 
 namespace orvik::host {
 namespace {
@@ -12,7 +13,9 @@ using OpenFunction = const char*(const char* utf8Path);
 }  // namespace
 
 std::optional<QString> OpenSimulatedMachine(const QString& machineFile) {
-  QLibrary library(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("orvik_simulation")));
+  const QDir folder = SimulationFolder();
+  SearchLibrariesIn(folder);
+  QLibrary library(folder.filePath(QStringLiteral("orvik_simulation")));
   auto* const open = reinterpret_cast<OpenFunction*>(library.resolve("OrvikSimulationOpen"));
   if (open == nullptr) {
     return QCoreApplication::translate("orvik-diag", "Simulated machines are not available in this installation: %1")

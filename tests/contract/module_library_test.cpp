@@ -45,7 +45,7 @@ class FunctionTask final : public contract::Task {
   std::function<void()> function_;
 };
 
-std::shared_ptr<Machine> InstallMirror() {
+AdapterDescription MirrorAdapter() {
   auto adapter = PciRaidAdapter("2822", 23);
   adapter.csmi.emplace();
   for (const char* const serial : {"A", "B"}) {
@@ -56,9 +56,28 @@ std::shared_ptr<Machine> InstallMirror() {
       SasDriveDescription{.vendor = "ORVIK", .product = "OVS300", .revision = "1", .sectors = 1000});
   adapter.csmi->raidSets.push_back(
       {.type = CsmiRaidType::Raid1, .capacityMiB = 953867, .members = {{.drive = 0}, {.drive = 1}}});
+  return adapter;
+}
+
+std::shared_ptr<Machine> InstallMirror() {
   auto microsoft = PciRaidAdapter("A000", 24);
   microsoft.driver.provider = "Microsoft";
-  auto machine = std::make_shared<Machine>(MachineDescription{.adapters = {microsoft, adapter}});
+  auto machine = std::make_shared<Machine>(MachineDescription{.adapters = {microsoft, MirrorAdapter()}});
+  InstallMachine(machine);
+  return machine;
+}
+
+/// The mirror beside a storelib controller whose drives can be checked in a moment.
+std::shared_ptr<Machine> InstallBothFamilies() {
+  const SasDriveDescription drive{.vendor = "ORVIK", .product = "OVS300", .revision = "1", .sectors = 1000};
+  auto machine = std::make_shared<Machine>(MachineDescription{
+      .speed = 100'000,
+      .adapters = {MirrorAdapter()},
+      .storelib = {.controllers = {{.controllerId = 3,
+                                    .product = "ORVK RAID",
+                                    .drives = {{.deviceId = 8, .drive = drive}},
+                                    .logicalDrives = {{.targetId = 1, .blocks = 1000, .members = {8}}},
+                                    .enclosures = {{.enclosureId = 1, .faultByte = 1}}}}}});
   InstallMachine(machine);
   return machine;
 }
@@ -217,7 +236,7 @@ TEST_F(ModuleLibraryTest, RunsATestOnAWorker) {
   destroy_(module);
 }
 
-// Presence, a scan and both CSMI tests on whatever the scan finds, as a host goes about it.
+// Presence, a scan, every test and the member drives of whatever the scan finds, as a host goes about it.
 std::size_t GoThroughEverything(contract::Module* module) {
   const auto scanner = module->GetScanner();
   const auto listener = std::make_shared<Listener>();
@@ -225,23 +244,25 @@ std::size_t GoThroughEverything(contract::Module* module) {
   scanner->Scan(listener);
   EXPECT_EQ(listener->finished, 1);
   for (const auto& device : scanner->Devices()) {
-    for (const int id : {5, 6}) {
+    for (const int id : {1, 2, 3, 4, 5, 6}) {
       const std::uint8_t abort = 0;
       Reporter reporter;
       contract::Arguments arguments{device, &abort, &reporter, nullptr};
       const auto result = module->CreateTest(id)->Run(arguments);
       EXPECT_GE(result, 1);
       EXPECT_LE(result, 5);
-      EXPECT_FALSE(reporter.progress.empty());
+      if (result != 4) EXPECT_FALSE(reporter.progress.empty()) << id;
     }
+    std::vector<contract::StorageDevice> members;
+    device->StorageDevices(members);
   }
   return listener->found.size();
 }
 
 TEST_F(ModuleLibraryTest, SurvivesTheFailureOfEveryOutsideCall) {
-  const auto healthy = InstallMirror();
+  const auto healthy = InstallBothFamilies();
   contract::Module* module = create_();
-  EXPECT_EQ(GoThroughEverything(module), 1U);
+  EXPECT_EQ(GoThroughEverything(module), 2U);
   destroy_(module);
   EXPECT_EQ(healthy->Ledger().OutstandingTotal(), 0U);
   const std::uint64_t calls = healthy->Faults().CallsMade("*");
@@ -249,10 +270,10 @@ TEST_F(ModuleLibraryTest, SurvivesTheFailureOfEveryOutsideCall) {
 
   std::size_t lost = 0;
   for (std::uint64_t n = 1; n <= calls; ++n) {
-    const auto machine = InstallMirror();
+    const auto machine = InstallBothFamilies();
     machine->Faults().FailCall(n);
     module = create_();
-    if (GoThroughEverything(module) == 0) ++lost;
+    if (GoThroughEverything(module) < 2) ++lost;
     destroy_(module);
     ASSERT_EQ(machine->Ledger().OutstandingTotal(), 0U) << "call " << n;
     ASSERT_EQ(machine->Ledger().InvalidReleases(), 0U) << "call " << n;

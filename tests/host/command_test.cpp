@@ -6,6 +6,7 @@
 #include <QJsonArray>
 
 #include "tests/host/checked_document.h"
+#include "tests/host/fake_module.h"
 #include "tests/host/host_process.h"
 
 namespace orvik::tests {
@@ -240,6 +241,25 @@ TEST_F(CommandTest, MachineIsOpenedBeforeTheModuleIsLoaded) {
   EXPECT_EQ(host_.Run({"scan", "--machine", "good.json"}).exitCode, 0) << "the option comes before the environment";
   host_.SetEnvironment("ORVIK_MACHINE", "");
   EXPECT_EQ(host_.Run({"scan"}).exitCode, 0);
+}
+
+TEST_F(CommandTest, QuestionsAreAnsweredOrClosedButNeverWaitedFor) {
+  host_.SetEnvironment("FAKE_TESTS", QString::number(kAsk));
+  struct Row {
+    QStringList arguments;
+    QJsonValue answer;
+    const char* ending;
+  };
+  for (const auto& [arguments, answer, ending] :
+       {Row{{"--answer", "ok"}, "ok", "answer 1"}, Row{{"--answer=Cancel"}, "cancel", "answer 2"},
+        Row{{"--answer", "yes"}, QJsonValue::Null, "answer 0"}, Row{{}, QJsonValue::Null, "answer 0"}}) {
+    const QJsonObject document = Document(QStringList{"test", "--device", "0"} + arguments, 0);
+    const QJsonArray questions = document["runs"].toArray()[0].toObject()["questions"].toArray();
+    EXPECT_EQ(questions, (QJsonArray{QJsonObject{{"title", "Sure?"}, {"text", "It hurts."}, {"answer", answer}}}));
+    EXPECT_EQ(host_.LogLines().filter("answer").last(), ending);
+  }
+  const Finished finished = host_.Run({"test", "--device", "0"});
+  EXPECT_TRUE(finished.out.contains("question: Sure? It hurts. (not answered)\n")) << finished.out.toStdString();
 }
 
 }  // namespace

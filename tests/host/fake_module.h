@@ -22,6 +22,7 @@ enum FakeTest : core::TestId {
   kInvalid,
   kFirstDeviceOnly,
   kUnknownResult,
+  kAsk,  ///< asks a question in a dialog and logs what it ended with
   kUnmade = 99,  ///< listed but never made
 };
 
@@ -42,6 +43,8 @@ std::string Environment(const char* name);
 /// Drives that tell everything, next to nothing, only what NVMe drives do, or all but their capacity.
 enum class FakeDrive { Ata, Silent, Nvme, Scsi };
 std::shared_ptr<module::storage::Protocol> MakeFakeDrive(FakeDrive kind);
+
+core::TestResult AskFakeQuestion(core::RunReporter& reporter);
 
 std::unique_ptr<core::Test> MakeFakeTest(core::TestId id);
 std::shared_ptr<core::DeviceScanner> MakeFakeScanner();

@@ -77,6 +77,7 @@ class FakeTestObject final : public core::Test {
       case kUntilAborted: return WaitForAbort(arguments);
       case kThrow: throw std::runtime_error("out of luck");
       case kMeet: return Meet() ? TestResult::Passed : TestResult::Failed;
+      case kAsk: return AskFakeQuestion(*arguments.reporter);
       case kInvalid: return TestResult::Invalid;
       case kUnknownResult: return static_cast<TestResult>(77);
       default: return TestResult::Passed;

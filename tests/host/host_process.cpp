@@ -29,6 +29,8 @@ HostProcess::HostProcess() {
   EXPECT_TRUE(QFile::copy(HOST_PROGRAM, PathOf(QFileInfo(HOST_PROGRAM).fileName())));
   environment_[kLogEnvironment] = PathOf("log");
   environment_["LANG"] = "C.UTF-8";
+  // Nobody sits before a display to answer.
+  environment_["QT_QPA_PLATFORM"] = "offscreen";
 }
 
 void HostProcess::InstallModule() const {

@@ -12,6 +12,7 @@
 #include <array>
 #include <cstdlib>
 
+#include "tests/host/fake_module.h"
 #include "tests/host/host_process.h"
 
 namespace orvik::tests {
@@ -70,6 +71,25 @@ TEST_F(TerminalTest, ColoursAreForTerminalsThatWantThem) {
   EXPECT_EQ(piped_, "");
   host_.SetEnvironment("NO_COLOR", "1");
   EXPECT_FALSE(Show(STDOUT_FILENO).contains('\x1b'));
+}
+
+TEST_F(TerminalTest, QuestionsAreAskedThereUntilTheAnswerIsUnderstood) {
+  host_.SetEnvironment("FAKE_TESTS", QString::number(kAsk));
+  const QByteArray answers = "what?\nCANCEL\n";
+  ASSERT_EQ(write(terminal_, answers.data(), answers.size()), answers.size());
+  QProcess process;
+  process.setInputChannelMode(QProcess::ForwardedInputChannel);
+  process.setChildProcessModifier([this] {
+    dup2(screen_, STDIN_FILENO);
+    dup2(screen_, STDERR_FILENO);
+  });
+  host_.Start(process, {"test", "--device", "0"});
+  ASSERT_TRUE(process.waitForFinished());
+  std::array<char, 4096> shown{};
+  const ssize_t size = read(terminal_, shown.data(), shown.size());
+  EXPECT_EQ(QByteArray(shown.data(), size).count("Sure?\r\nIt hurts.\r\n[ok/cancel] "), 2);
+  EXPECT_EQ(host_.LogLines().filter("answer").last(), "answer 2");
+  EXPECT_TRUE(process.readAllStandardOutput().contains("question: Sure? It hurts. (cancel)\n"));
 }
 
 }  // namespace
