@@ -3,6 +3,8 @@
 namespace orvik::host {
 
 // There always is a desktop.
-void ChooseDisplay() {}
+void ChooseDisplay() {
+  LeaveScalingToDialogs();
+}
 
 }  // namespace orvik::host

@@ -18,6 +18,10 @@ void QuietToolkit() {
   if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES")) qInstallMessageHandler(WriteGraveMessages);
 }
 
+void LeaveScalingToDialogs() {
+  if (!qEnvironmentVariableIsSet("QT_ENABLE_HIGHDPI_SCALING")) qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+}
+
 bool HasDisplay() {
   const QString platform = QGuiApplication::platformName();
   return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");

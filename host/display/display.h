@@ -9,6 +9,10 @@ void ChooseDisplay();
 /// QT_LOGGING_RULES brings them back.
 void QuietToolkit();
 
+/// The module's dialogs scale themselves to the monitor; scaled by the toolkit too they would grow twice. Part of
+/// `ChooseDisplay`.
+void LeaveScalingToDialogs();
+
 /// Whether a person can see the windows of this program. With the application object.
 bool HasDisplay();
 
