@@ -76,7 +76,7 @@ TEST_F(TerminalTest, ColoursAreForTerminalsThatWantThem) {
 TEST_F(TerminalTest, QuestionsAreAskedThereUntilTheAnswerIsUnderstood) {
   host_.SetEnvironment("FAKE_TESTS", QString::number(kAsk));
   const QByteArray answers = "what?\nCANCEL\n";
-  ASSERT_EQ(write(terminal_, answers.data(), answers.size()), answers.size());
+  ASSERT_EQ(write(terminal_, answers.data(), static_cast<std::size_t>(answers.size())), answers.size());
   QProcess process;
   process.setInputChannelMode(QProcess::ForwardedInputChannel);
   process.setChildProcessModifier([this] {
