@@ -5,7 +5,6 @@
 #include <sched.h>
 #include <unistd.h>
 
-
 #include "platform/windows/failure.h"
 #include "simulation/machine/current_machine.h"
 

@@ -22,7 +22,7 @@ enum FakeTest : core::TestId {
   kInvalid,
   kFirstDeviceOnly,
   kUnknownResult,
-  kAsk,  ///< asks a question in a dialog and logs what it ended with
+  kAsk,          ///< asks a question in a dialog and logs what it ended with
   kUnmade = 99,  ///< listed but never made
 };
 
