@@ -130,7 +130,6 @@ StorelibStatus StorelibDrive::ScsiPassThrough(const StorelibRequest& request) co
   Set(frame, scsi_frame::kScsiStatus, completion->status);
   SetBytes(frame, scsi_frame::kSense, completion->sense);
   Set(frame, scsi_frame::kDataLength, transferred);
-  Set(request.packet, command_packet::kDataSize, transferred);
   return completion->status == kScsiGood ? StorelibStatus::Success : StorelibStatus::ScsiCommandFailed;
 }
 
@@ -155,7 +154,6 @@ StorelibStatus StorelibDrive::SataPassThrough(const StorelibRequest& request) co
   WriteStatusFis(Inside(frame, sata_frame::kStatusFis), *completion);
   Set(frame, sata_frame::kCompletionStatus, failed ? sata_frame::kDeviceError : 0);
   Set(frame, sata_frame::kDataLength, transferred);
-  Set(request.packet, command_packet::kDataSize, transferred);
   return StorelibStatus::Success;
 }
 
