@@ -454,6 +454,10 @@
         <translation>Die Laufwerke hinter den Controllern nach Kennung und Zustand fragen</translation>
     </message>
     <message>
+        <source>BUTTON</source>
+        <translation>TASTE</translation>
+    </message>
+    <message>
         <source>CODE</source>
         <translation>CODE</translation>
     </message>

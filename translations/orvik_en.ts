@@ -454,6 +454,10 @@
         <translation>Ask the member drives for their identification and condition</translation>
     </message>
     <message>
+        <source>BUTTON</source>
+        <translation>BUTTON</translation>
+    </message>
+    <message>
         <source>CODE</source>
         <translation>CODE</translation>
     </message>

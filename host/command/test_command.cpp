@@ -32,7 +32,7 @@ class TestCommand final : public Command {
         .add_option(
             "--answer", answer_,
             QCoreApplication::translate("orvik-diag", "Press this button when a test asks a question").toStdString())
-        ->type_name("ok|cancel|yes|no")
+        ->type_name(QCoreApplication::translate("orvik-diag", "BUTTON").toStdString())
         ->check(CLI::IsMember({"ok", "cancel", "yes", "no"}, CLI::ignore_case));
   }
 
