@@ -31,9 +31,9 @@ bool MakePicture(const QString& folder, unsigned dpi, bool highContrast) {
   description.desktop = {.highContrast = highContrast, .dpi = dpi};
   orvik::simulation::InstallMachine(std::make_shared<orvik::simulation::Machine>(description));
   InputRequest request;
-  request.title = Translated("CHECK_CONSISTENCY_TEST");
+  request.title = Translated("CHECK_CONSISTENCY_ALREADY_IN_PROGRESS");
   request.text = Translated("CANCEL_AND_START_NEW_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE_QUESTION");
-  request.kind = 0;
+  request.kind = 1;
   request.buttons = 1;
   GenericInputDialog dialog(&request, "RAID", nullptr);
   dialog.show();

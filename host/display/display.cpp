@@ -8,14 +8,14 @@ namespace orvik::host {
 
 namespace {
 
-void WriteGraveMessages(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
-  if (type == QtCriticalMsg || type == QtFatalMsg) Write(Stream::Error, (message + u'\n').toUtf8());
+void WriteFatalMessages(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+  if (type == QtFatalMsg) Write(Stream::Error, (message + u'\n').toUtf8());
 }
 
 }  // namespace
 
 void QuietToolkit() {
-  if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES")) qInstallMessageHandler(WriteGraveMessages);
+  if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES")) qInstallMessageHandler(WriteFatalMessages);
 }
 
 void LeaveScalingToDialogs() {

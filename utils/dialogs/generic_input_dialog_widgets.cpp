@@ -46,6 +46,8 @@ void GenericInputDialogWidgets::SetUpHeader() {
   icon = Make<QLabel>(QStringLiteral("generic_input_information_icon"), header);
   icon->setFocusPolicy(Qt::NoFocus);
   title = Make<QLabel>(QStringLiteral("generic_input_header_label"), header);
+  // A style may draw it larger than in the font that the dialog is made wide for.
+  title->setWordWrap(true);
   closeButton = Make<QPushButton>(QStringLiteral("generic_input_header_close"), header);
   closeButton->setFlat(true);
   // Otherwise Enter would press it.
