@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "module/raid/driver_version.h"
-#include "tests/module/machines.h"
+#include "tests/module/storelib_machines.h"
 
 namespace orvik::module::raid {
 namespace {
@@ -137,6 +137,24 @@ TEST(DeviceScannerTest, FindsByExactIdInScanOrder) {
   EXPECT_TRUE(devices[0].expired());
   EXPECT_TRUE(scanner.FindDevice("282a").expired());
   EXPECT_FALSE(scanner.FindDevice("2822").expired());
+}
+
+TEST(DeviceScannerTest, PutsTheCsmiFamilyFirstAndAsksTheOtherOnlyWithoutIt) {
+  const auto machine = Install({.adapters = {Mirror()}, .storelib = {.controllers = {LsiController()}}});
+  const auto recorder = std::make_shared<ScanRecorder>();
+  DeviceScanner scanner;
+  scanner.CheckPresence(recorder);
+  EXPECT_EQ(recorder->present, std::vector{true});
+  EXPECT_EQ(machine->Faults().CallsMade("STORELIB_LIST_CONTROLLERS"), 0U);
+  scanner.Scan(recorder);
+  ASSERT_EQ(recorder->found.size(), 2U);
+  EXPECT_EQ(recorder->found[0].id, "2822");
+  EXPECT_EQ(recorder->found[1].id, "3");
+
+  InstallLsi();
+  DeviceScanner other;
+  other.CheckPresence(recorder);
+  EXPECT_EQ(recorder->present, (std::vector{true, true}));
 }
 
 TEST(DriverVersionTest, TakesTheFirstDriverOfAnotherProvider) {
