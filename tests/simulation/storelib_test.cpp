@@ -70,7 +70,7 @@ class StorelibTest : public testing::Test {
                      const PacketField& change = {}) {
     data = Filled(60 + length, {{0, 2, length == 0 ? device : 0x0200U + device},
                                 {4, 4, length == 0 ? 4U : 1U},
-                                {8, 3, 0x8027U | command << 16},
+                                {8, 3, 0x8027U | std::uint32_t{command} << 16},
                                 {12, 3, 0x332211},
                                 {32, 4, 20},
                                 {36, 4, length}});
