@@ -2,6 +2,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <atomic>
 
 #include "tests/host/fake_module.h"
 
@@ -11,7 +12,7 @@ namespace {
 // Looks like the real dialog to whoever goes by object names.
 class FakeQuestion final : public core::InputInteraction {
  public:
-  explicit FakeQuestion(int& result) : result_(&result) {}
+  explicit FakeQuestion(std::atomic<int>& result) : result_(&result) {}
 
   void Interact() override { DoInteract(); }
 
@@ -41,13 +42,14 @@ class FakeQuestion final : public core::InputInteraction {
     QObject::connect(button, &QPushButton::clicked, &dialog, [&dialog, code] { dialog.done(code); });
   }
 
-  int* result_;
+  // Qt's blocking call orders the threads too, but not before a thread sanitizer.
+  std::atomic<int>* result_;
 };
 
 }  // namespace
 
 core::TestResult AskFakeQuestion(core::RunReporter& reporter) {
-  int result = -1;
+  std::atomic<int> result = -1;
   std::unique_ptr<core::InputInteraction> question = std::make_unique<FakeQuestion>(result);
   reporter.Ask(question);
   Log("answer " + std::to_string(result));
