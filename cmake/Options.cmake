@@ -34,6 +34,14 @@ if(ORVIK_SANITIZE)
   target_link_options(orvik_options INTERFACE -fsanitize=${ORVIK_SANITIZE})
 endif()
 
+# What the fuzzers find their way by; the programs add the engine itself (fuzz/CMakeLists.txt).
+option(ORVIK_FUZZ "Build the fuzzers in place of the programs and tests; needs clang" OFF)
+if(ORVIK_FUZZ)
+  target_compile_options(orvik_options INTERFACE -fsanitize=fuzzer-no-link -Wno-unknown-warning-option
+    -Wno-format-nonliteral)
+  target_compile_definitions(orvik_options INTERFACE _GLIBCXX_ASSERTIONS)
+endif()
+
 # Every target of ours includes from the repository root ("utils/text/string_handler.h"); who may include whom is
 # checked by IncludeRules.cmake and by what each target links.
 function(orvik_target name)
@@ -59,7 +67,11 @@ function(orvik_linker_map name)
   set(map "${CMAKE_CURRENT_BINARY_DIR}/${name}.map")
   list(JOIN ARGN "; " names)
   file(CONFIGURE OUTPUT "${map}" CONTENT "{ global: @names@; local: *; };\n" @ONLY)
-  target_link_options(${name} PRIVATE "LINKER:--version-script=${map}" "LINKER:-z,defs")
+  target_link_options(${name} PRIVATE "LINKER:--version-script=${map}")
+  if(NOT ORVIK_FUZZ)
+    # With clang the sanitizers' functions are in the program only.
+    target_link_options(${name} PRIVATE "LINKER:-z,defs")
+  endif()
   set_target_properties(${name} PROPERTIES LINK_DEPENDS "${map}")
 endfunction()
 

@@ -43,6 +43,11 @@ void FaultBook::Add(FaultRule rule) {
   rules_.push_back({std::move(rule)});
 }
 
+void FaultBook::AskForEach(FaultSource source) {
+  const std::scoped_lock lock(mutex_);
+  source_ = std::move(source);
+}
+
 void FaultBook::FailCall(std::uint64_t n, std::uint32_t error) {
   Add({.operation = std::string(kEveryOutsideCall), .call = n, .effects = {.error = error}});
 }
@@ -54,6 +59,7 @@ void FaultBook::FailEvery(std::string_view operation, std::uint32_t error) {
 void FaultBook::Clear() {
   const std::scoped_lock lock(mutex_);
   rules_.clear();
+  source_ = nullptr;
 }
 
 std::uint64_t FaultBook::CallsMade(std::string_view operation) const {
@@ -75,6 +81,7 @@ FaultEffects FaultBook::OnCall(std::initializer_list<std::string_view> names) {
     ++active.seen;
     if (active.rule.call.value_or(active.seen) == active.seen) Merge(effects, active.rule.effects);
   }
+  if (source_) Merge(effects, source_(known));
   return effects;
 }
 

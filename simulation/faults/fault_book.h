@@ -7,6 +7,7 @@
 #include <initializer_list>
 #include <map>
 #include <mutex>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,10 +22,15 @@ inline constexpr std::uint32_t kDefaultFaultError = 31;  // ERROR_GEN_FAILURE
 /// True for the functions that "*" stands for: those of Windows that can fail, and the vendor library's.
 bool IsOutsideCall(std::string_view operation);
 
+/// Asked about each call, known by all of `names`: what happens to it.
+using FaultSource = std::function<FaultEffects(std::span<const std::string_view> names)>;
+
 /// May be used from several threads.
 class FaultBook {
  public:
   void Add(FaultRule rule);
+  /// Asks `source`, one call at a time, for what is to happen beside what the rules say.
+  void AskForEach(FaultSource source);
   /// Fails the n-th outside call from now on, counted from 1.
   void FailCall(std::uint64_t n, std::uint32_t error = kDefaultFaultError);
   /// Fails every call of `operation` from now on.
@@ -45,6 +51,7 @@ class FaultBook {
 
   mutable std::mutex mutex_;
   std::vector<ActiveRule> rules_;
+  FaultSource source_;
   std::map<std::string, std::uint64_t, std::less<>> calls_;
 };
 

@@ -28,7 +28,7 @@ std::string Describe(const QJsonValue& value) {
     case QJsonValue::Null: return "null";
     case QJsonValue::Bool: return value.toBool() ? "true" : "false";
     case QJsonValue::Double: return "the number " + NumberText(value.toDouble());
-    case QJsonValue::String: return "the text \"" + OnOneLine(value.toString().toStdString()) + "\"";
+    case QJsonValue::String: return "the text \"" + value.toString().toStdString() + "\"";
     case QJsonValue::Array: return "a list";
     case QJsonValue::Object: return "an object";
     case QJsonValue::Undefined: break;
@@ -52,7 +52,8 @@ Number HexNumber(std::string_view digits) {
 void Complaint::Add(const std::string& place, const std::string& expected, const std::string& found) {
   if (Made()) return;
   text_ = place;
-  text_.append(": expected ").append(expected).append(", found ").append(found);
+  // Names of keys can hold anything too.
+  text_.append(": expected ").append(expected).append(", found ").append(OnOneLine(found));
 }
 
 Node::Node(QJsonValue value, std::string place, Complaint& complaint)

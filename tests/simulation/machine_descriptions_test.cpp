@@ -70,6 +70,8 @@ TEST_F(MachineDescriptions, AreRefusedWithPlaceExpectationAndFinding) {
        "adapters[1].csmi.drives[0].sectors: expected a whole number from 1 to 281474976710655, found the number 1.5"},
       {Csmi(R"("drives": [{"kind": "SATA", "model": "m", "serial": "s", "sectors": 1}], "phys": [{"drive": 1}])"),
        "adapters[1].csmi.phys[0].drive: expected a whole number from 0 to 0, found the number 1"},
+      {Document(R"("registry": [{"key": "a", "name": "b", "text": "c", "\n": 1}])"),
+       R"(registry[0]: expected one of the keys "key", "name", "text", found the key " ")"},
       {Document(R"("faults": [{"operation": "*"}])"), R"(faults[0]: expected an effect such as "error", found none)"},
       {Document(R"("faults": [{"operation": "DeviceIoControl", "patch": [{"offset": 1, "bytes": "ABC"}]}])"),
        R"(faults[0].patch[0].bytes: expected a text of pairs of hexadecimal digits, found the text "ABC")"},

@@ -51,10 +51,11 @@ std::optional<CsmiAdapter> OpenAdapter(WinDeviceInterfaceScanner& scanner, std::
                                        const std::string& path) {
   auto description = Description(scanner, index);
   if (!description || path.size() < kDevicePosition + kIdLength) return std::nullopt;
-  HANDLE handle = INVALID_HANDLE_VALUE;
-  if (scanner.OpenDevice(path, handle) != 0) return std::nullopt;
+  HANDLE opened = INVALID_HANDLE_VALUE;
+  if (scanner.OpenDevice(path, opened) != 0) return std::nullopt;
+  utils::UniqueHandle handle(opened);  // owned before anything else can fail
   return CsmiAdapter{.interfacePath = path,
-                     .handle = utils::UniqueHandle(handle),
+                     .handle = std::move(handle),
                      .description = *std::move(description),
                      .pciVendorId = path.substr(kVendorPosition, kIdLength),
                      .pciDeviceId = path.substr(kDevicePosition, kIdLength)};

@@ -1,6 +1,7 @@
 #include "module/storage/ata/ata_logs.h"
 
 #include <array>
+#include <map>
 #include <span>
 
 #include "module/storage/ata/ata_commands.h"
@@ -57,9 +58,11 @@ std::uint16_t AtaLogs::SizeOf(std::uint8_t logAddress) {
 }
 
 void AtaLogs::ReadDirectory() {
-  const auto remember = [this](AtaCmd& command, utils::ByteView data, std::span<const std::uint8_t> logs) {
+  // Remembered as a whole: half a directory would be taken for all of it from then on.
+  std::map<std::uint8_t, std::uint16_t> directory;
+  const auto remember = [&](AtaCmd& command, utils::ByteView data, std::span<const std::uint8_t> logs) {
     if (bridges_.Send(command) != status::kSuccess || (command.command & kAtaStatusError) != 0) return;
-    for (const std::uint8_t log : logs) directory_[log] = data.Get(SizeWord(log));
+    for (const std::uint8_t log : logs) directory[log] = data.Get(SizeWord(log));
   };
   std::array<std::uint8_t, kAtaPageSize> data{};
   SmartReadLog smart(ata_log::kDirectory, 1, data.data());
@@ -67,6 +70,7 @@ void AtaLogs::ReadDirectory() {
   data.fill(0);
   ReadLogExt extended(ata_log::kDirectory, 1, data.data(), 0);
   remember(extended, utils::ByteView(data), kExtendedLogs);
+  directory_.swap(directory);
 }
 
 }  // namespace orvik::module::storage

@@ -12,7 +12,6 @@ namespace {
 namespace smart_data {
 constexpr Le16 kRevision{0};
 constexpr std::size_t kAttributeSize = 12;
-constexpr std::size_t kAttributes = 30;
 constexpr Block Attribute(std::size_t number) {
   return {2 + kAttributeSize * number, kAttributeSize};
 }

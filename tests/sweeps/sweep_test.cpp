@@ -1,0 +1,37 @@
+// Every outside call fails in every way in which it can, and memory runs out: a defined answer, nothing kept, and all
+// is well again afterwards.
+
+#include <gtest/gtest.h>
+
+#include "tests/sweeps/subjects.h"
+
+namespace orvik::sweeps {
+namespace {
+
+void Sweep(const std::vector<Subject>& subjects, std::size_t fewestRuns) {
+  std::size_t runs = 0;
+  for (const Subject& subject : subjects) {
+    SCOPED_TRACE(subject.name);
+    runs += SweepFaults(subject.make);
+    if (testing::Test::HasFailure()) return;
+  }
+  // A sweep that hits nothing proves nothing.
+  EXPECT_GE(runs, fewestRuns);
+  testing::Test::RecordProperty("runs", static_cast<int>(runs));
+}
+
+TEST(SweepTest, ModuleSurvivesWhateverFails) {
+  Sweep(ModuleSubjects(), 1000);
+}
+
+class DriveSweepTest : public testing::TestWithParam<std::size_t> {};
+
+TEST_P(DriveSweepTest, OperationsSurviveWhateverFails) {
+  SCOPED_TRACE(DriveRoads().at(GetParam()));
+  Sweep(DriveSubjects(GetParam()), 100);
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryRoad, DriveSweepTest, testing::Range<std::size_t>(0, DriveRoads().size()));
+
+}  // namespace
+}  // namespace orvik::sweeps
