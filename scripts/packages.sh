@@ -5,6 +5,7 @@ set -euo pipefail
 declare -A groups=(
   [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
            libcli11-dev libgtest-dev googletest libvalijson-dev"
+  [bench]="libbenchmark-dev python3"
   [pictures]="fonts-dejavu-core"
   [lint]="clang-format clang-tidy binutils"
   [windows]="g++-mingw-w64-x86-64-posix qt6-base-dev-tools dpkg-dev wine wine64 xvfb zip unzip"
