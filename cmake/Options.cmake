@@ -17,6 +17,8 @@ if(WIN32)
   set(CMAKE_SHARED_LIBRARY_PREFIX "")
 endif()
 
+option(ORVIK_BENCHMARKS "Build the benchmarks: benchmarks/run.sh" OFF)
+
 # "slots", "signals" and "emit" are plain words here.
 add_compile_definitions(QT_NO_KEYWORDS)
 

@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# Installs the Debian packages of the named groups that are missing: build, fuzz, lint, pictures, windows. Quick when none
-# is.
+# Installs the Debian packages of the named groups that are missing: bench, build, fuzz, lint, pictures, windows.
+# Quick when none is.
 set -euo pipefail
 
 declare -A groups=(
   [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
            libcli11-dev libgtest-dev googletest libvalijson-dev"
+  [bench]="libbenchmark-dev"
   [fuzz]="clang libclang-rt-14-dev"
   [pictures]="fonts-dejavu-core imagemagick"
   [lint]="clang-format clang-tidy binutils"

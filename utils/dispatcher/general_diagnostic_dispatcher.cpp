@@ -1,6 +1,5 @@
 #include "utils/dispatcher/general_diagnostic_dispatcher.h"
 
-#include <thread>
 #include <utility>
 
 namespace orvik::utils {
@@ -14,8 +13,8 @@ bool WantsExclusiveTest(const core::DispatchRequest& request) {
 
 }  // namespace
 
-GeneralDiagnosticDispatcher::GeneralDiagnosticDispatcher() {
-  pool_.Start(WorkerCount(std::thread::hardware_concurrency()));
+GeneralDiagnosticDispatcher::GeneralDiagnosticDispatcher(unsigned hardwareThreads) {
+  pool_.Start(WorkerCount(hardwareThreads));
 }
 
 GeneralDiagnosticDispatcher::~GeneralDiagnosticDispatcher() {
@@ -40,8 +39,8 @@ bool GeneralDiagnosticDispatcher::CanStart(const std::unique_ptr<core::DispatchR
 
 void GeneralDiagnosticDispatcher::Dispatch(std::unique_ptr<core::TaskInterface> task) {
   if (task == nullptr) return;
-  // Submit's function must be copyable, hence the shared ownership. Nobody waits for the outcome.
-  pool_.Submit([shared = std::shared_ptr<core::TaskInterface>(std::move(task))] { shared->Execute(); });
+  // Nobody waits for the outcome.
+  pool_.Submit([owned = std::move(task)] { owned->Execute(); });
 }
 
 void GeneralDiagnosticDispatcher::NotifyStarted(const std::unique_ptr<core::DispatchRequest>& request) {

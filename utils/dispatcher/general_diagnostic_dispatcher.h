@@ -5,6 +5,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <thread>
 
 #include "core/dispatcher.h"
 #include "utils/dispatcher/thread_pool.h"
@@ -15,7 +16,7 @@ namespace orvik::utils {
 /// calls the reservation operations from one thread at a time. Must not be destroyed on one of its own workers.
 class GeneralDiagnosticDispatcher final : public core::DiagnosticDispatcher {
  public:
-  GeneralDiagnosticDispatcher();
+  explicit GeneralDiagnosticDispatcher(unsigned hardwareThreads = std::thread::hardware_concurrency());
   ~GeneralDiagnosticDispatcher() override;
 
   bool CanStart(const std::unique_ptr<core::DispatchRequest>& request) const override;

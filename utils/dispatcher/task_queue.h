@@ -2,11 +2,12 @@
 
 #include <atomic>
 #include <condition_variable>
+#include <cstddef>
 #include <deque>
 #include <memory>
 #include <mutex>
 
-#include "core/dispatcher.h"
+#include "utils/dispatcher/packaged_task.h"
 
 /// First in, first out, between any number of threads.
 class TaskQueue {
@@ -16,11 +17,12 @@ class TaskQueue {
   TaskQueue& operator=(const TaskQueue&) = delete;
   virtual ~TaskQueue() = default;
 
-  /// Appends the task and wakes one waiting consumer; destroys the task at once when the queue is invalidated.
-  void Push(std::unique_ptr<orvik::core::TaskInterface> task);
+  /// Appends the task and sees to it that one waiting consumer looks for it; destroys the task at once when the queue
+  /// is invalidated.
+  void Push(orvik::utils::QueuedTask task);
 
   /// Waits for an entry. Throws `std::logic_error` "Invalidated queue!" when the queue is invalidated and empty.
-  std::unique_ptr<orvik::core::TaskInterface> Pop();
+  orvik::utils::QueuedTask Pop();
 
   bool IsValid() const;
 
@@ -28,8 +30,19 @@ class TaskQueue {
   void Invalidate();
 
  private:
-  std::deque<std::unique_ptr<orvik::core::TaskInterface>> entries_;
+  std::unique_lock<std::mutex> Lock();
+  /// Until there is an entry or the queue is invalidated.
+  void WaitForEntry(std::unique_lock<std::mutex>& lock);
+
+  std::deque<orvik::utils::QueuedTask> entries_;
   std::mutex mutex_;
   std::atomic<bool> invalidated_ = false;
   std::condition_variable available_;
+
+  // Waking a thread costs more than most entries' way through the queue. Therefore an entry wakes a consumer only
+  // when no consumer is awake to look for it, and a consumer looks around for a moment before it sleeps.
+  std::size_t sleeping_ = 0;
+  std::size_t seeking_ = 0;           // awake without an entry, or called
+  std::size_t calls_ = 0;             // that no sleeping consumer has answered yet
+  std::atomic<bool> filled_ = false;  // there are entries, for a look without the mutex
 };
