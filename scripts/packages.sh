@@ -6,7 +6,7 @@ set -euo pipefail
 declare -A groups=(
   [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
            libcli11-dev libgtest-dev googletest libvalijson-dev"
-  [bench]="libbenchmark-dev"
+  [bench]="libbenchmark-dev python3"
   [fuzz]="clang libclang-rt-14-dev"
   [pictures]="fonts-dejavu-core imagemagick"
   [lint]="clang-format clang-tidy binutils"
