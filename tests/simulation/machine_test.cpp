@@ -2,7 +2,7 @@
 
 #include <tuple>
 
-#include "tests/simulation/csmi_packets.h"
+#include "tests/simulation/packets.h"
 
 namespace orvik::simulation {
 namespace {

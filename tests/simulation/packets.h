@@ -1,17 +1,16 @@
 #pragma once
 
-// Raw CSMI packets, put together byte by byte: offsets are written out, so that an error in the layouts of the
-// simulated controller cannot cancel itself out.
+// Raw packets, put together byte by byte: offsets are written out, so that an error in the layouts of the simulated
+// controllers cannot cancel itself out.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "simulation/csmi/csmi_controller.h"
 
 namespace orvik::simulation {
 
@@ -60,11 +59,6 @@ inline Bytes Packet(std::string_view signature, std::uint32_t controlCode, std::
   std::ranges::copy(signature, packet.begin() + 4);
   Put(packet, {16, 4, controlCode});
   Put(packet, {24, 4, size - 28});
-  return packet;
-}
-
-inline Bytes Answered(CsmiController& controller, Bytes packet) {
-  controller.Answer(packet);
   return packet;
 }
 
