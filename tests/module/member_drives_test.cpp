@@ -304,28 +304,5 @@ TEST(MemberDrivesTest, AskTheSystemWhenTheDriveCannotTell) {
   EXPECT_EQ(DirectAta(denied.Get())->GetProperties(&properties), 125U);
 }
 
-TEST(MemberDrivesTest, NeverOverrunABufferWhateverComesBack) {
-  for (std::uint32_t seed = 0; seed < 12; ++seed) {
-    const auto machine = InstallController({Sata(), Sas(), Nvme("N1")});
-    const auto device = OpenDevice();
-    const auto members = Members(*device);
-    machine->Faults().Add({.operation = "*", .effects = {.garbleSeed = seed}});
-    for (const auto& member : members) {
-      storage::Protocol& drive = *member.protocolObject;
-      ProtocolProperties properties;
-      std::uint8_t byte = 0;
-      std::uint64_t lba = 0;
-      std::vector<std::uint8_t> sector(512);
-      drive.GetProperties(&properties);
-      drive.GetTemperature(byte);
-      drive.GetHealthStatus(byte);
-      drive.GetSelfTestProgress(byte);
-      drive.GetSelfTestFailingLba(lba);
-      drive.SetSmartEnabled(1);
-      if (properties.logicalSectorSize == 512) drive.Read(0, 1, 30, sector.data(), 512);
-    }
-  }
-}
-
 }  // namespace
 }  // namespace orvik::module::raid
