@@ -35,7 +35,7 @@ class QuestionDesk final : public QObject {
  private:
   void Take(QDialog& dialog);
   void Serve();
-  void Press(AnswerButton button);
+  void Press(AnswerButton wanted);
   void AskOnTerminal();
   void ReadTerminal();
   void LeaveTerminal();

@@ -45,7 +45,7 @@ class CheckConsistencyTest::ActiveRun {
   void Report(core::MessageType type, const char* key, const std::string& value) {
     AddMessage(arguments_, type, key, value);
   }
-  void SetProgress(double percent) { arguments_.reporter->SetProgress(static_cast<std::uint8_t>(percent)); }
+  void SetProgress(double percent) const { arguments_.reporter->SetProgress(static_cast<std::uint8_t>(percent)); }
   /// The share of the progress bar that the drives up to `index` take.
   double DonePercent(std::size_t index) const { return static_cast<double>(index) * step_; }
 

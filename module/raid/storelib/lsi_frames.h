@@ -12,7 +12,7 @@ namespace orvik::module::raid {
 LsiCommand FrameScsiCommand(std::uint32_t controllerId, std::uint16_t deviceId, const storage::ScsiCmd& command);
 
 /// Takes what came back of a framed command that the library executed, or that it reported as failed.
-void TakeScsiReply(const LsiCommand& frame, bool failed, storage::ScsiCmd& command);
+void TakeScsiReply(const LsiCommand& request, bool failed, storage::ScsiCmd& command);
 
 /// An ATA command to a SATA drive, framed for the controller.
 LsiCommand FrameAtaCommand(std::uint32_t controllerId, std::uint8_t deviceId, const storage::AtaCmd& command);
@@ -21,6 +21,6 @@ LsiCommand FrameAtaCommand(std::uint32_t controllerId, std::uint8_t deviceId, co
 bool IsCompleted(const LsiCommand& ataFrame);
 
 /// Takes registers and data of a completed command.
-void TakeAtaReply(const LsiCommand& frame, storage::AtaCmd& command);
+void TakeAtaReply(const LsiCommand& request, storage::AtaCmd& command);
 
 }  // namespace orvik::module::raid
