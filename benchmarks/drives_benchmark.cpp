@@ -37,7 +37,6 @@ class RecordingBridge final : public Bridge {
 
   Status Send(Command& command) override {
     commands.push_back(command);
-    if (commands.back().buffer != nullptr) commands.back().buffer = nullptr;
     return Bridge::Send(command);
   }
 
@@ -75,8 +74,9 @@ struct Nvme {
   }
 };
 
-void InstallDrives() {
-  SetRequestTime({});
+/// With requests that take at least as many microseconds as the benchmark's argument says.
+void InstallDrives(const benchmark::State& state) {
+  SetRequestTime(std::chrono::microseconds(state.range(0)));
   auto adapter = simulation::PciRaidAdapter("a77f", 14);
   adapter.csmi.emplace();
   adapter.csmi->drives.emplace_back(simulation::NvmeDriveDescription{
@@ -106,7 +106,7 @@ class Subject {
     ProtocolProperties properties;
     works = protocol_.GetProperties(&properties) == status::kSuccess;
     bridge_->commands.clear();
-    works = works && Run() == status::kSuccess;
+    works = works && RunOn(protocol_) == status::kSuccess;
     commands_ = bridge_->commands;
     works = works && !commands_.empty();
     unrecorded_.AddBridge(std::make_shared<typename Kind::Bridge>(handle_.Get()));
@@ -114,7 +114,7 @@ class Subject {
     works = works && unrecorded_.GetProperties(&properties) == status::kSuccess;
   }
 
-  Status RunUnrecorded() { return RunOn(unrecorded_); }
+  Status Run() { return RunOn(unrecorded_); }
 
   void SendCommands() {
     for (typename Kind::Command command : commands_) {
@@ -126,8 +126,6 @@ class Subject {
   bool works = false;
 
  private:
-  Status Run() { return RunOn(protocol_); }
-
   Status RunOn(typename Kind::ProtocolType& protocol) {
     if (operation_ == Operation::Read) {
       return protocol.Read(0x1000, kSectors, 0, buffer_.data(), static_cast<std::uint32_t>(buffer_.size()));
@@ -149,32 +147,36 @@ class Subject {
 
 template <typename Kind, Operation kOperation>
 void ByProtocol(benchmark::State& state) {
-  InstallDrives();
+  InstallDrives(state);
   Subject<Kind> subject(kOperation);
   if (!subject.works) return state.SkipWithError("the drive does not answer");
-  for ([[maybe_unused]] const auto& iteration : state) subject.RunUnrecorded();
+  for ([[maybe_unused]] const auto& iteration : state) subject.Run();
 }
 
 template <typename Kind, Operation kOperation>
 void ByBridge(benchmark::State& state) {
-  InstallDrives();
+  InstallDrives(state);
   Subject<Kind> subject(kOperation);
   if (!subject.works) return state.SkipWithError("the drive does not answer");
   for ([[maybe_unused]] const auto& iteration : state) subject.SendCommands();
 }
 
-BENCHMARK(ByProtocol<Ata, Operation::Identify>)->Name("IdentifyByProtocol/ATA");
-BENCHMARK(ByBridge<Ata, Operation::Identify>)->Name("IdentifyByBridge/ATA");
-BENCHMARK(ByProtocol<Scsi, Operation::Identify>)->Name("IdentifyByProtocol/SCSI");
-BENCHMARK(ByBridge<Scsi, Operation::Identify>)->Name("IdentifyByBridge/SCSI");
-BENCHMARK(ByProtocol<Nvme, Operation::Identify>)->Name("IdentifyByProtocol/NVMe");
-BENCHMARK(ByBridge<Nvme, Operation::Identify>)->Name("IdentifyByBridge/NVMe");
-BENCHMARK(ByProtocol<Ata, Operation::Read>)->Name("ReadByProtocol/ATA");
-BENCHMARK(ByBridge<Ata, Operation::Read>)->Name("ReadByBridge/ATA");
-BENCHMARK(ByProtocol<Scsi, Operation::Read>)->Name("ReadByProtocol/SCSI");
-BENCHMARK(ByBridge<Scsi, Operation::Read>)->Name("ReadByBridge/SCSI");
-BENCHMARK(ByProtocol<Nvme, Operation::Read>)->Name("ReadByProtocol/NVMe");
-BENCHMARK(ByBridge<Nvme, Operation::Read>)->Name("ReadByBridge/NVMe");
+void RequestTimes(benchmark::internal::Benchmark* benchmark) {
+  benchmark->ArgName("request_us")->Arg(0)->Arg(5)->Unit(benchmark::kMicrosecond);
+}
+
+BENCHMARK(ByProtocol<Ata, Operation::Identify>)->Name("IdentifyByProtocol/ATA")->Apply(RequestTimes);
+BENCHMARK(ByBridge<Ata, Operation::Identify>)->Name("IdentifyByBridge/ATA")->Apply(RequestTimes);
+BENCHMARK(ByProtocol<Scsi, Operation::Identify>)->Name("IdentifyByProtocol/SCSI")->Apply(RequestTimes);
+BENCHMARK(ByBridge<Scsi, Operation::Identify>)->Name("IdentifyByBridge/SCSI")->Apply(RequestTimes);
+BENCHMARK(ByProtocol<Nvme, Operation::Identify>)->Name("IdentifyByProtocol/NVMe")->Apply(RequestTimes);
+BENCHMARK(ByBridge<Nvme, Operation::Identify>)->Name("IdentifyByBridge/NVMe")->Apply(RequestTimes);
+BENCHMARK(ByProtocol<Ata, Operation::Read>)->Name("ReadByProtocol/ATA")->Apply(RequestTimes);
+BENCHMARK(ByBridge<Ata, Operation::Read>)->Name("ReadByBridge/ATA")->Apply(RequestTimes);
+BENCHMARK(ByProtocol<Scsi, Operation::Read>)->Name("ReadByProtocol/SCSI")->Apply(RequestTimes);
+BENCHMARK(ByBridge<Scsi, Operation::Read>)->Name("ReadByBridge/SCSI")->Apply(RequestTimes);
+BENCHMARK(ByProtocol<Nvme, Operation::Read>)->Name("ReadByProtocol/NVMe")->Apply(RequestTimes);
+BENCHMARK(ByBridge<Nvme, Operation::Read>)->Name("ReadByBridge/NVMe")->Apply(RequestTimes);
 
 }  // namespace
 }  // namespace orvik::benchmarks

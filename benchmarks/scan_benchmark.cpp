@@ -2,6 +2,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <memory>
+#include <vector>
+
 #include "benchmarks/heap_meter.h"
 #include "benchmarks/machines.h"
 #include "benchmarks/outside_calls.h"
@@ -12,18 +15,23 @@ namespace {
 
 class Host final : public core::ScanListener {
  public:
-  void OnDeviceFound(const core::DeviceDescription& /*description*/) override { ++found; }
+  void OnDeviceFound(const core::DeviceDescription& description) override {
+    ++count;
+    if (keep) found.push_back(description);
+  }
   void OnScanFinished() override {}
   void OnPresenceChecked(bool /*present*/) override {}
 
-  unsigned found = 0;
+  bool keep = false;
+  unsigned count = 0;
+  std::vector<core::DeviceDescription> found;
 };
 
 /// A scanner's whole life. The number of controllers that it found.
 unsigned Scan() {
   const auto host = std::make_shared<Host>();
   module::raid::DeviceScanner().Scan(host);
-  return host->found;
+  return host->count;
 }
 
 /// With requests that take at least as many microseconds as the benchmark's first argument says.
@@ -53,6 +61,18 @@ void ScanByCallsAlone(benchmark::State& state) {
   state.counters["calls"] = static_cast<double>(calls.Size());
 }
 
+/// The least that the host is owed after a scan: one copy of what it is told.
+void DescriptionsAlone(benchmark::State& state) {
+  InstallLargest(state);
+  const auto host = std::make_shared<Host>();
+  host->keep = true;
+  module::raid::DeviceScanner().Scan(host);
+  for ([[maybe_unused]] const auto& iteration : state) {
+    auto copy = host->found;
+    benchmark::DoNotOptimize(copy);
+  }
+}
+
 /// A machine with controllers of one family: 1 CSMI, 2 storelib.
 void ScanOfControllers(benchmark::State& state) {
   const auto controllers = static_cast<unsigned>(state.range(1));
@@ -67,6 +87,7 @@ void ScanOfControllers(benchmark::State& state) {
 
 BENCHMARK(ScanByModule)->ArgName("request_us")->Arg(0)->Arg(5)->Unit(benchmark::kMillisecond);
 BENCHMARK(ScanByCallsAlone)->ArgName("request_us")->Arg(0)->Arg(5)->Unit(benchmark::kMillisecond);
+BENCHMARK(DescriptionsAlone)->ArgName("request_us")->Arg(0)->Unit(benchmark::kMillisecond);
 BENCHMARK(ScanOfControllers)
     ->ArgNames({"family", "controllers"})
     ->ArgsProduct({{1, 2}, {1, 2, 4, 8, 16}})
