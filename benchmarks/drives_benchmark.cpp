@@ -2,6 +2,7 @@
 // bare bridge.
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include <memory>
 #include <string>
@@ -77,6 +78,9 @@ struct Nvme {
 /// With requests that take at least as many microseconds as the benchmark's argument says.
 void InstallDrives(const benchmark::State& state) {
   SetRequestTime(std::chrono::microseconds(state.range(0)));
+  // The C library changes its mind about blocks of this size while it runs, which would meet one side only.
+  mallopt(M_MMAP_THRESHOLD, 1 << 24);
+  mallopt(M_TRIM_THRESHOLD, 1 << 26);
   auto adapter = simulation::PciRaidAdapter("a77f", 14);
   adapter.csmi.emplace();
   adapter.csmi->drives.emplace_back(simulation::NvmeDriveDescription{
