@@ -8,8 +8,10 @@ namespace orvik::module::raid {
 
 namespace {
 
-void AddIfNotEmpty(core::KeyValueList& list, const char* key, const std::string& value) {
-  if (!value.empty()) list.emplace_back(key, value);
+constexpr std::size_t kPhysicalDiskEntries = 6;
+
+void AddIfNotEmpty(core::KeyValueList& list, const char* key, std::string value) {
+  if (!value.empty()) list.emplace_back(key, std::move(value));
 }
 
 std::string Join(const std::vector<std::string>& texts) {
@@ -40,8 +42,9 @@ storage::Status Device::BuildProperties() {
   std::vector<PhysicalDrive> physicalDrives;
   const storage::Status result = GetPhysicalDrives(physicalDrives);
   if (result == storage::status::kSuccess) {
-    AddPhysicalDisks(physicalDrives);
-    properties.emplace_back("NUM_PHYSICAL_DEVICES", std::to_string(physicalDrives.size()));
+    const std::size_t count = physicalDrives.size();
+    AddPhysicalDisks(std::move(physicalDrives));
+    properties.emplace_back("NUM_PHYSICAL_DEVICES", std::to_string(count));
     AddIfNotEmpty(properties, "DRIVER_VERSION", controllerInfo.driverVersion);
   }
   return result;
@@ -76,13 +79,18 @@ void Device::AddLogicalDisks(const std::vector<LogicalDrive>& drives) {
   }
 }
 
-void Device::AddPhysicalDisks(const std::vector<PhysicalDrive>& drives) {
-  for (const auto& drive : drives) {
-    core::KeyValueList resource = {{"RESOURCE_TYPE", "PHYSICAL_DISK"}, {"INDEX", std::to_string(resources.size())}};
-    AddIfNotEmpty(resource, "MANUFACTURER", drive.manufacturer);
-    AddIfNotEmpty(resource, "MODEL", drive.model);
+void Device::AddPhysicalDisks(std::vector<PhysicalDrive> drives) {
+  resources.reserve(resources.size() + drives.size());
+  for (auto& drive : drives) {
+    // Without an initialiser list, whose texts would be copied.
+    core::KeyValueList resource;
+    resource.reserve(kPhysicalDiskEntries);
+    resource.emplace_back("RESOURCE_TYPE", "PHYSICAL_DISK");
+    resource.emplace_back("INDEX", std::to_string(resources.size()));
+    AddIfNotEmpty(resource, "MANUFACTURER", std::move(drive.manufacturer));
+    AddIfNotEmpty(resource, "MODEL", std::move(drive.model));
     if (drive.sizeBytes != 0) resource.emplace_back("SIZE", SizeText(drive.sizeBytes));
-    AddIfNotEmpty(resource, "SERIAL", drive.serial);
+    AddIfNotEmpty(resource, "SERIAL", std::move(drive.serial));
     resources.push_back(std::move(resource));
   }
 }

@@ -49,7 +49,7 @@ class Device : public RaidDevice {
  private:
   void AddControllerProperties();
   void AddLogicalDisks(const std::vector<LogicalDrive>& drives);
-  void AddPhysicalDisks(const std::vector<PhysicalDrive>& drives);
+  void AddPhysicalDisks(std::vector<PhysicalDrive> drives);
 };
 
 }  // namespace orvik::module::raid

@@ -1,5 +1,5 @@
 #include <array>
-#include <cstdio>
+#include <charconv>
 
 #include "platform/hostkit/services.h"
 
@@ -23,9 +23,12 @@ void DecimalNumberHandler::SizeText(std::string& output, std::uint64_t bytes) co
     value /= 1000;
     ++unit;
   }
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%.2f %s", value, kUnits.at(unit));  // NOLINT(cert-err33-c): it fits
-  output = text.data();
+  std::array<char, 32> digits{};
+  const auto end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, 2).ptr;
+  output.assign(digits.data(), end);
+  output += ' ';
+  output += kUnits.at(unit);
 }
 
 }  // namespace hostkit

@@ -81,7 +81,9 @@ class ByteView {
   /// The blocks of an array, `count` of them or as many as lie wholly inside the view.
   std::vector<ByteView> Entries(BlockArray array, std::size_t count) const {
     std::vector<ByteView> entries;
-    for (std::size_t i = 0; i < std::min(count, Count(array)); ++i) entries.push_back(Sub(array.At(i)));
+    count = std::min(count, Count(array));
+    entries.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) entries.push_back(Sub(array.At(i)));
     return entries;
   }
 

@@ -104,7 +104,9 @@ storage::Status LsiDevice::GetPhysicalDrives(std::vector<PhysicalDrive>& drives)
   storage::Status result = Send(list);
   if (result != status::kSuccess) return result;
   using namespace lsi::physical_drive_list;
-  for (const ByteView entry : list.Data().Entries(kEntries, list.Data().Get(kCount))) {
+  const auto entries = list.Data().Entries(kEntries, list.Data().Get(kCount));
+  drives.reserve(entries.size());
+  for (const ByteView entry : entries) {
     if (entry.Get(kEntryDeviceType) != kDirectAccessDevice) continue;
     PhysicalDrive drive;
     result = DescribePhysicalDrive(entry.Get(kEntryDeviceId), drive);

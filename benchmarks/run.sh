@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Builds and runs the benchmarks and tells how they stand to their bars: benchmarks/run.sh [--quick]
+# In full (about five minutes) it ends with 1 when a bar is missed and draws docs/images/benchmarks.svg. The quick form
+# only sees to it that everything runs.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+quick=${1:-}
+scripts/packages.sh build bench
+results=build/benchmarks
+mkdir -p "$results"
+cmake --preset release -DORVIK_BENCHMARKS=ON > "$results/configure.log" || { tail "$results/configure.log" >&2; exit 1; }
+scripts/build.sh release dispatch_benchmark module_benchmark load_benchmark
+
+# measure RESULT PROGRAM SECONDS REPETITIONS [OPTION]...
+# Repetitions of everything are mixed, so that what else the machine does meets all sides of a comparison.
+measure() {
+  local result=$1 program=$2 seconds=$3 repetitions=$4
+  shift 4
+  [ -z "$quick" ] || { seconds=0.01; repetitions=1; }
+  echo "measuring: $result" >&2
+  "build/release/bin/$program" --benchmark_min_time="$seconds" --benchmark_repetitions="$repetitions" \
+    --benchmark_enable_random_interleaving=true --benchmark_format=json "$@" \
+    > "$results/$result.json" 2> "$results/$result.log" || { tail "$results/$result.log" >&2; exit 1; }
+}
+rm -f "$results"/*.json
+measure dispatch dispatch_benchmark 0.1 15
+measure module module_benchmark 0.1 9 --benchmark_filter=-AbortToCancel
+measure abort module_benchmark 1 51 --benchmark_filter=AbortToCancel
+measure load load_benchmark 0.05 41
+
+python3 benchmarks/report.py "$results" ${quick:+--no-bars} $([ -n "$quick" ] || echo --draw docs/images/benchmarks.svg)
