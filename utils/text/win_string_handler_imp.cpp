@@ -47,11 +47,21 @@ std::uint32_t CountOrError(int written, std::size_t size) {
   return fits ? static_cast<std::uint32_t>(written) : StringHandler::kError;
 }
 
+/// Holds on until the process ends, but has no memory that an unloaded library would leave behind.
+union NeverDestroyed {
+  NeverDestroyed() : object() {}
+  NeverDestroyed(const NeverDestroyed&) = delete;
+  NeverDestroyed& operator=(const NeverDestroyed&) = delete;
+  ~NeverDestroyed() {}  // NOLINT(modernize-use-equals-default): a default would be deleted
+
+  WinStringHandlerImp object;
+};
+
 }  // namespace
 
 StringHandler* OwnStringHandler() {
-  static auto* const handler = new WinStringHandlerImp;
-  return handler;
+  static NeverDestroyed handler;
+  return &handler.object;
 }
 
 bool WinStringHandlerImp::IsNumeric(const char* characters, std::size_t maximum) const {

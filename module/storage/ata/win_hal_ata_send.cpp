@@ -9,8 +9,8 @@
 namespace orvik::module::storage {
 
 WinHalAtaSend& WinHalAtaSend::Instance() {
-  static auto* const sender = new WinHalAtaSend;
-  return *sender;
+  static WinHalAtaSend sender;
+  return sender;
 }
 
 Status WinHalAtaSend::Send(HANDLE device, AtaCmd& command) {

@@ -9,8 +9,8 @@
 namespace orvik::module::storage {
 
 WinHalNvmeSend& WinHalNvmeSend::Instance() {
-  static auto* const sender = new WinHalNvmeSend;
-  return *sender;
+  static WinHalNvmeSend sender;
+  return sender;
 }
 
 Status WinHalNvmeSend::Send(HANDLE /*device*/, NvmeCmd& /*command*/) {
@@ -18,8 +18,8 @@ Status WinHalNvmeSend::Send(HANDLE /*device*/, NvmeCmd& /*command*/) {
 }
 
 WinNvmeIntelSend& WinNvmeIntelSend::Instance() {
-  static auto* const sender = new WinNvmeIntelSend;
-  return *sender;
+  static WinNvmeIntelSend sender;
+  return sender;
 }
 
 Status WinNvmeIntelSend::Send(HANDLE port, std::uint64_t /*ignored*/, NvmeCmd& command) {

@@ -9,8 +9,8 @@
 namespace orvik::module::storage {
 
 WinHalScsiSend& WinHalScsiSend::Instance() {
-  static auto* const sender = new WinHalScsiSend;
-  return *sender;
+  static WinHalScsiSend sender;
+  return sender;
 }
 
 Status WinHalScsiSend::Send(HANDLE device, std::int32_t spare, ScsiCmd& command) {
