@@ -1,15 +1,16 @@
 #!/usr/bin/env bash
 # Runs every fuzzer, as many at a time as there are processors, and tells how far each got:
 #   fuzz/run.sh MINUTES     for so many minutes in all
-#   fuzz/run.sh --quick     for one minute in all
+#   fuzz/run.sh --quick     for one minute in all, from the seeds alone
 #   fuzz/run.sh ... TARGET  only the named ones
 # What they found interesting stays in build/fuzz/corpus and is where the next run starts from; an input that breaks
 # something lands in build/fuzz/findings, and the program of that target takes its file as an argument.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+corpus=corpus
 case "${1:-}" in
-  --quick) seconds=60 ;;
+  --quick) seconds=60 corpus=quick-corpus ;;
   [0-9]*) seconds=$(($1 * 60)) ;;
   *) echo "fuzz/run.sh MINUTES|--quick [TARGET]..." >&2; exit 2 ;;
 esac
@@ -21,7 +22,8 @@ scripts/packages.sh build fuzz
 scripts/build.sh fuzz
 
 build=$PWD/build/fuzz
-corpus=$build/corpus findings=$build/findings logs=$build/logs
+corpus=$build/$corpus findings=$build/findings logs=$build/logs
+rm -rf "$build/quick-corpus"
 mkdir -p "$corpus" "$findings" "$logs"
 "$build/bin/fuzz_seeds" "$corpus"
 mkdir -p "$corpus/description" "$corpus/style"

@@ -78,14 +78,19 @@ void WriteFaultSeeds(const std::filesystem::path& folder) {
       {7, 31},
       {8, 28, 0},
   };
-  for (const char* const target : {"machine", "storelib"}) {
-    for (std::size_t before = 0; before < 200; before += before < 40 ? 1 : 8) {
-      fuzz::Record all;
-      for (const auto& kind : kinds) {
-        all.insert(all.end(), before, 0);
-        all.insert(all.end(), kind.begin(), kind.end());
-      }
-      Write(folder / target, std::to_string(before), all);
+  for (std::size_t before = 0; before < 200; before += before < 40 ? 1 : 8) {
+    fuzz::Record all;
+    for (const auto& kind : kinds) {
+      all.insert(all.end(), before, 0);
+      all.insert(all.end(), kind.begin(), kind.end());
+    }
+    const std::string name = std::to_string(before);
+    Write(folder / "storelib", name, all);
+    // The first byte of a machine's input says what is left out.
+    for (const auto leftOut : {std::uint8_t{6}, std::uint8_t{5}, std::uint8_t{3}}) {
+      all.insert(all.begin(), leftOut);
+      Write(folder / "machine", name + "-without-" + std::to_string(leftOut), all);
+      all.erase(all.begin());
     }
   }
 }
