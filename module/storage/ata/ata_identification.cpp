@@ -5,7 +5,6 @@
 #include <new>
 #include <span>
 #include <string>
-#include <utility>
 
 #include "module/storage/ata/ata_protocol.h"
 #include "module/storage/ata/identify_data.h"
@@ -36,7 +35,7 @@ Status AtaProtocol::GetProperties(ProtocolProperties* properties) {
   if (properties == nullptr) return status::kBadArgument;
   ProtocolProperties identified;
   if (const Status result = IdentifyInto(identified); result != status::kSuccess) return result;
-  *properties_ = std::move(identified);
+  *properties_ = identified;
   CopyProperties(*properties);
   return status::kSuccess;
 }
