@@ -33,7 +33,7 @@ def ratios(title, rows):
         colour = FAINT if bar is None else GOOD if ratio <= bar else BAD
         parts += [_text(left - 8, y + 12, label, "end"),
                   f'<rect x="{left}" y="{y + 2}" width="{ratio * scale:.1f}" height="{step - 6}" fill="{colour}"/>',
-                  _text(left + ratio * scale + 6, y + 12, f"{ratio:.2f}")]
+                  _text(left + max(ratio, bar or 0) * scale + 6, y + 12, f"{ratio:.2f}")]
         if bar is not None:
             parts.append(_line(left + bar * scale, y, left + bar * scale, y + step - 2, INK))
     return _document(width, height, parts)
@@ -50,7 +50,7 @@ def lines(title, across, series):
         highest = max(max(values), 1)
         points = " ".join(f"{left + (width - left - right) * x / last:.1f},{base - (panel - 40) * y / highest:.1f}"
                           for x, y in zip(across, values))
-        parts += [_text(left, base - panel + 24, f"{label} ({unit})"), _line(left, base, width - right, base),
-                  _text(left - 8, base, "0", "end"), _text(left - 8, base - panel + 46, f"{highest:g}", "end"),
+        parts += [_text(left, base - panel + 24, f"{label} ({unit})" if unit else label), _line(left, base, width - right, base),
+                  _text(left - 8, base, "0", "end"), _text(left - 8, base - panel + 46, f"{highest:.3g}", "end"),
                   f'<polyline points="{points}" fill="none" stroke="{GOOD}" stroke-width="1.5"/>']
     return _document(width, height, parts)

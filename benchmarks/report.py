@@ -51,7 +51,7 @@ class Report:
             for producers in (1, 4):
                 for workers in (1, 2, 4):
                     size = f"/producers:{producers}/workers:{workers}"
-                    self.compare(f"Dispatch, {producers} producers, {workers} workers / {name}",
+                    self.compare(f"Dispatch, producers {producers}, workers {workers} / {name}",
                                  f"EmptyTasks<Dispatcher>{size}", f"EmptyTasks<{other}>{size}", bar, "real_time")
 
     def module(self):

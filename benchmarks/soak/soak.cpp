@@ -86,6 +86,9 @@ class Soak {
       if (round % kRoundsOfAModule == 0) {
         Rest();
         module_.reset();
+        // A machine keeps a book of what was asked of it.
+        empty_ = std::make_shared<simulation::Machine>();
+        simulation::InstallMachine(empty_);
         module_ = std::make_unique<LoadedModule>(modulePath_);
       }
       machines_.push_back(std::make_shared<simulation::Machine>(benchmarks::RandomMachine(random_)));

@@ -44,8 +44,10 @@ void TaskState::ReleaseFuture() {
 }
 
 void TaskState::Settle(Outcome outcome) {
-  outcome_.store(outcome, std::memory_order_release);
-  outcome_.notify_all();
+  // Without a future nobody asks any more. With one, the store must not be delayed past the look for waiting threads.
+  const bool asked = owners_.load(std::memory_order_acquire) > 1;
+  outcome_.store(outcome, asked ? std::memory_order_seq_cst : std::memory_order_relaxed);
+  if (asked) outcome_.notify_all();
 }
 
 }  // namespace orvik::utils
