@@ -40,7 +40,7 @@ bool GeneralDiagnosticDispatcher::CanStart(const std::unique_ptr<core::DispatchR
 void GeneralDiagnosticDispatcher::Dispatch(std::unique_ptr<core::TaskInterface> task) {
   if (task == nullptr) return;
   // Nobody waits for the outcome.
-  pool_.Submit([owned = std::move(task)] { owned->Execute(); });
+  pool_.Post([owned = std::move(task)] { owned->Execute(); });
 }
 
 void GeneralDiagnosticDispatcher::NotifyStarted(const std::unique_ptr<core::DispatchRequest>& request) {

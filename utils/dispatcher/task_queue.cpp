@@ -19,12 +19,7 @@ void TaskQueue::Push(orvik::utils::QueuedTask task) {
     if (invalidated_) return;
     entries_.push_back(std::move(task));
     filled_.store(true, std::memory_order_relaxed);
-    if (sleeping_ > 0 && entries_.size() > seeking_) {
-      --sleeping_;
-      ++seeking_;
-      ++calls_;
-      call = true;
-    }
+    call = CallsSleeper();
   }
   if (call) available_.notify_one();
 }
@@ -36,7 +31,18 @@ orvik::utils::QueuedTask TaskQueue::Pop() {
   auto task = std::move(entries_.front());
   entries_.pop_front();
   if (entries_.empty()) filled_.store(false, std::memory_order_relaxed);
+  const bool call = CallsSleeper();
+  lock.unlock();
+  if (call) available_.notify_one();
   return task;
+}
+
+bool TaskQueue::CallsSleeper() {
+  if (sleeping_ == 0 || called_ || entries_.size() <= seeking_) return false;
+  --sleeping_;
+  ++seeking_;
+  called_ = true;
+  return true;
 }
 
 bool TaskQueue::IsValid() const {
@@ -69,9 +75,9 @@ void TaskQueue::WaitForEntry(std::unique_lock<std::mutex>& lock) {
     if (isOver()) break;
     --seeking_;
     ++sleeping_;
-    available_.wait(lock, [this] { return invalidated_ || calls_ > 0; });
+    available_.wait(lock, [this] { return invalidated_ || called_; });
     if (invalidated_) return;
-    --calls_;  // whoever called has moved this consumer from the sleeping to the seeking
+    called_ = false;  // whoever called has moved this consumer from the sleeping to the seeking
   }
   --seeking_;
 }

@@ -31,6 +31,8 @@ class TaskQueue {
 
  private:
   std::unique_lock<std::mutex> Lock();
+  /// Whether a sleeping consumer is to be notified; the books then have it awake.
+  bool CallsSleeper();
   /// Until there is an entry or the queue is invalidated.
   void WaitForEntry(std::unique_lock<std::mutex>& lock);
 
@@ -43,6 +45,6 @@ class TaskQueue {
   // when no consumer is awake to look for it, and a consumer looks around for a moment before it sleeps.
   std::size_t sleeping_ = 0;
   std::size_t seeking_ = 0;           // awake without an entry, or called
-  std::size_t calls_ = 0;             // that no sleeping consumer has answered yet
+  bool called_ = false;               // one that has not woken up yet
   std::atomic<bool> filled_ = false;  // there are entries, for a look without the mutex
 };

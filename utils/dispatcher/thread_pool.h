@@ -29,6 +29,14 @@ class ThreadPool {
     return std::move(future);
   }
 
+  /// As `Submit` for whoever drops the future: it goes before the task can be on its way in another processor's
+  /// cache.
+  template <typename Function>
+  void Post(Function function) {
+    auto task = orvik::utils::Package(std::move(function)).first;
+    queue_.Push(std::move(task));
+  }
+
   /// Lets running tasks finish and joins every worker; queued tasks never run. Does nothing the second time. Must not
   /// be called on a worker.
   void Stop();
