@@ -66,12 +66,13 @@ BOOL WINAPI SetForegroundWindow(HWND window) {
 }
 
 HWND WINAPI GetDesktopWindow() {
-  return std::bit_cast<HWND>(kDesktopWindow);
+  return reinterpret_cast<HWND>(kDesktopWindow);  // NOLINT(performance-no-int-to-ptr): a name, not an address
 }
 
 HMONITOR WINAPI MonitorFromWindow(HWND window, DWORD flags) {
   const bool known = window == GetDesktopWindow() || flags == MONITOR_DEFAULTTOPRIMARY;
-  return std::bit_cast<HMONITOR>(known ? kMonitor : 0);
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): a name, not an address
+  return reinterpret_cast<HMONITOR>(known ? kMonitor : 0);
 }
 
 BOOL WINAPI GetUserNameW(LPWSTR buffer, LPDWORD size) {
