@@ -79,15 +79,14 @@ wine regedit /S "$reports/adapters.reg"
 suite build/windows/bin/windows_tests.exe "$reports/windows_tests"
 
 echo "-- all tests on the simulated machine"
-# The dialogs' tests would do without a display; here their windows are real ones.
-export QT_QPA_PLATFORM=windows
 printf '\n%-20s %8s %8s\n' suite native Wine > "$reports/table"
 : > "$reports/differences"
 for program in build/dev/bin/*_tests; do
   name=$(basename "$program")
   windows=build/windows-simulated/bin/$name.exe
   [ -e "$windows" ] || { printf 'FAILED: %s is missing\n' "$windows"; failed=$((failed + 1)); continue; }
-  suite "$windows" "$reports/$name"
+  # The dialogs' tests would do without a display; here their windows are real ones.
+  QT_QPA_PLATFORM=windows suite "$windows" "$reports/$name"
   "$program" --gtest_list_tests | awk '/^[^ ]/ {group = $1} /^ / {print group $1}' | sort > "$reports/$name.native"
   grep -v ' skipped$' "$reports/$name" | cut -d ' ' -f 1 | sort > "$reports/$name.wine" || true
   printf '%-20s %8s %8s\n' "$name" "$(wc -l < "$reports/$name.native")" "$(wc -l < "$reports/$name.wine")" >> "$reports/table"
