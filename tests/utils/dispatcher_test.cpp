@@ -2,8 +2,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <functional>
-#include <future>
 #include <latch>
 #include <stdexcept>
 #include <thread>
@@ -138,9 +136,9 @@ TEST(ThreadPoolTest, RunsTasksInOrderAndHandsOutResults) {
   std::vector<int> order;
   pool.Submit([&order] { order.push_back(1); });
   auto failure = pool.Submit([] { throw std::runtime_error("lost unless asked for"); });
-  pool.Submit([&order] { order.push_back(2); }).Get();
+  pool.Submit([&order] { order.push_back(2); }).get();
   EXPECT_EQ(order, (std::vector<int>{1, 2}));
-  EXPECT_THROW(failure.Get(), std::runtime_error);
+  EXPECT_THROW(failure.get(), std::runtime_error);
 }
 
 TEST(ThreadPoolTest, FinishesTheRunningTaskAndDropsTheQueuedOnes) {
@@ -183,41 +181,6 @@ TEST(ThreadPoolTest, ManyProducersManyWorkers) {
   }
   done.wait();
   EXPECT_EQ(count, 400);
-}
-
-// As many workers must wake up as there are tasks, however deep they sleep.
-TEST(ThreadPoolTest, EveryTaskFindsAWorkerOfItsOwn) {
-  constexpr int kWorkers = 4;
-  ThreadPool pool;
-  pool.Start(kWorkers);
-  for (int round = 0; round < 300; ++round) {
-    const auto together = std::make_shared<std::latch>(kWorkers + 1);
-    for (int i = 0; i < kWorkers; ++i) pool.Submit([together] { together->arrive_and_wait(); });
-    together->arrive_and_wait();
-    if (round % 10 == 0) std::this_thread::sleep_for(std::chrono::milliseconds(2));
-  }
-}
-
-TEST(PackagedTaskTest, TellsOfMisuseAndOfTasksThatNeverRan) {
-  const auto code = [](const std::function<void()>& misuse) {
-    try {
-      misuse();
-    } catch (const std::future_error& error) {
-      return error.code();
-    }
-    return std::error_code();
-  };
-  EXPECT_EQ(code([] { core::Task(PackagedTask()).Execute(); }), std::future_errc::no_state);
-  auto [task, future] = Package([] {});
-  task->Execute();
-  EXPECT_EQ(code([&task = task] { task->Execute(); }), std::future_errc::promise_already_satisfied);
-  task.reset();
-  EXPECT_NO_THROW(future.Get());
-  TaskQueue queue;
-  queue.Invalidate();
-  auto [late, never] = Package([] {});
-  queue.Push(std::move(late));
-  EXPECT_EQ(code([&never = never] { never.Get(); }), std::future_errc::broken_promise);
 }
 
 TEST(TaskQueueTest, EndsWaitingWhenInvalidated) {

@@ -2,12 +2,11 @@
 
 #include <atomic>
 #include <condition_variable>
-#include <cstddef>
 #include <deque>
 #include <memory>
 #include <mutex>
 
-#include "utils/dispatcher/packaged_task.h"
+#include "core/dispatcher.h"
 
 /// First in, first out, between any number of threads.
 class TaskQueue {
@@ -17,12 +16,11 @@ class TaskQueue {
   TaskQueue& operator=(const TaskQueue&) = delete;
   virtual ~TaskQueue() = default;
 
-  /// Appends the task and sees to it that one waiting consumer looks for it; destroys the task at once when the queue
-  /// is invalidated.
-  void Push(orvik::utils::QueuedTask task);
+  /// Appends the task and wakes one waiting consumer; destroys the task at once when the queue is invalidated.
+  void Push(std::unique_ptr<orvik::core::TaskInterface> task);
 
   /// Waits for an entry. Throws `std::logic_error` "Invalidated queue!" when the queue is invalidated and empty.
-  orvik::utils::QueuedTask Pop();
+  std::unique_ptr<orvik::core::TaskInterface> Pop();
 
   bool IsValid() const;
 
@@ -30,21 +28,8 @@ class TaskQueue {
   void Invalidate();
 
  private:
-  std::unique_lock<std::mutex> Lock();
-  /// Whether a sleeping consumer is to be notified; the books then have it awake.
-  bool CallsSleeper();
-  /// Until there is an entry or the queue is invalidated.
-  void WaitForEntry(std::unique_lock<std::mutex>& lock);
-
-  std::deque<orvik::utils::QueuedTask> entries_;
+  std::deque<std::unique_ptr<orvik::core::TaskInterface>> entries_;
   std::mutex mutex_;
   std::atomic<bool> invalidated_ = false;
   std::condition_variable available_;
-
-  // Waking a thread costs more than most entries' way through the queue. Therefore an entry wakes a consumer only
-  // when no consumer is awake to look for it, and a consumer looks around for a moment before it sleeps.
-  std::size_t sleeping_ = 0;
-  std::size_t seeking_ = 0;           // awake without an entry, or called
-  bool called_ = false;               // one that has not woken up yet
-  std::atomic<bool> filled_ = false;  // there are entries, for a look without the mutex
 };
