@@ -32,4 +32,4 @@ wine_library_path() {
   printf '%s' "$path"
 }
 
-wine_run() { WINEPATH=$(wine_library_path) timeout 600 wine "$@" < /dev/null; }
+wine_run() { WINEPATH=$(wine_library_path) timeout 240 wine "$@" < /dev/null; }
