@@ -215,26 +215,6 @@ TEST(LsiDeviceTest, BelievesNoAbsurdCountAndNoEndlessText) {
   EXPECT_EQ(info.serial, std::string(76, 'A'));
 }
 
-TEST(LsiDeviceTest, FailuresLeaveOutputsAsTheyWere) {
-  const auto machine = InstallLsi();
-  const auto device = OpenLsiDevice();
-  machine->Faults().FailEvery("ProcessLibCommand", 0x30);
-  ControllerInfo info;
-  EXPECT_EQ(device->GetControllerInfo(info), 1U);
-  EXPECT_TRUE(info.model.empty());
-  BatteryStatus battery{.lowVoltage = true};
-  EXPECT_EQ(device->GetBatteryStatus(battery), 1U);
-  EXPECT_TRUE(battery.lowVoltage);
-  bool flag = true;
-  double percent = 12;
-  EXPECT_EQ(device->GetConsistencyCheckProgress(0, flag, percent), 1U);
-  EXPECT_EQ(device->GetConsistencyCheckResult(0, 0x100, flag), 1U);
-  EXPECT_TRUE(flag);
-  EXPECT_EQ(percent, 12);
-  std::vector<StorageDeviceEntry> members;
-  EXPECT_EQ(device->GetStorageDevices(members), 1U);
-}
-
 TEST(LsiDeviceTest, FollowsAConsistencyCheck) {
   auto drive = Volume(5);
   drive.check = {.seconds = 100, .endsConsistent = false};
