@@ -23,13 +23,7 @@ result() {  # result WHAT COMMAND...: one check of this script's own
 
 # suite PROGRAM REPORT: runs a GoogleTest program and leaves "name status" lines in REPORT.
 suite() {
-  # On a loaded machine a program under Wine has been seen to sleep through a wake-up; once more tells that from a fault.
-  local try
-  for try in first second; do
-    wine_run "$1" --gtest_output="json:$2.json" > "$2.log" 2>&1 || true
-    [ ! -s "$2.json" ] || break
-    printf '%s: the %s try did not end\n' "$1" "$try"
-  done
+  wine_run "$1" --gtest_output="json:$2.json" > "$2.log" 2>&1 || true
   if [ ! -s "$2.json" ]; then
     printf 'FAILED: %s did not end\n' "$1"
     tail -n 20 "$2.log"

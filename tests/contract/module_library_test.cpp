@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <latch>
+#include <future>
 
 #include "simulation/machine/current_machine.h"
 #include "tests/contract/module_slots.h"
@@ -208,12 +208,12 @@ TEST_F(ModuleLibraryTest, RunsATestOnAWorker) {
   events.flags = 4;
   contract::Arguments arguments{device, &abort, &reporter, &events};
   std::uint8_t result = 0;
-  std::latch done(1);
-  dispatcher->Dispatch(std::make_unique<FunctionTask>([&] {
+  const auto done = std::make_shared<std::promise<void>>();
+  dispatcher->Dispatch(std::make_unique<FunctionTask>([&, done] {
     result = test->Run(arguments);
-    done.count_down();
+    done->set_value();
   }));
-  done.wait();
+  done->get_future().wait();
   dispatcher->Finished(request);
   EXPECT_TRUE(dispatcher->CanStart(request));
   EXPECT_EQ(result, 1);

@@ -4,7 +4,7 @@
 
 #include <atomic>
 #include <functional>
-#include <latch>
+#include <future>
 #include <map>
 #include <mutex>
 #include <random>
@@ -68,15 +68,15 @@ class ThreadsTest : public ::testing::Test {
     core::SystemEventState events;
     recorder.events = &events;
     auto result = core::TestResult::Invalid;
-    std::latch done(1);
-    dispatcher_->Dispatch(std::make_unique<FunctionTask>([&] {
+    const auto done = std::make_shared<std::promise<void>>();
+    dispatcher_->Dispatch(std::make_unique<FunctionTask>([&, done] {
       auto& inUse = running_.at(device.lock()->GetId());
       EXPECT_EQ(++inUse, 1) << "two runs on one device";
       result = recorder.Run(*test, device.lock());
       std::vector<StorageDeviceEntry> drives;
       std::static_pointer_cast<Device>(device.lock())->GetStorageDevices(drives);
       --inUse;
-      done.count_down();
+      done->set_value();
     }));
     // A consistency check ends in no other way.
     const bool aborts = id == 4 || random() % 2 == 0;
@@ -84,7 +84,7 @@ class ThreadsTest : public ::testing::Test {
       std::this_thread::sleep_for(std::chrono::microseconds(random() % 3000));
       recorder.abort = 1;
     }
-    done.wait();
+    done->get_future().wait();
     const std::lock_guard lock(book_);
     dispatcher_->NotifyFinished(request);
     EXPECT_NE(result, core::TestResult::Invalid);
