@@ -2,7 +2,10 @@
 
 #include <atomic>
 #include <chrono>
+#include <condition_variable>
+#include <functional>
 #include <future>
+#include <mutex>
 #include <stdexcept>
 #include <thread>
 
@@ -48,6 +51,22 @@ class FunctionTask final : public core::TaskInterface {
 
  private:
   std::function<void()> function_;
+};
+
+class Meeting {
+ public:
+  explicit Meeting(int expected) : missing_(expected) {}
+
+  void Join() {
+    std::unique_lock lock(mutex_);
+    if (--missing_ == 0) complete_.notify_all();
+    complete_.wait(lock, [this] { return missing_ == 0; });
+  }
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable complete_;
+  int missing_;
 };
 
 class ReservationTest : public testing::Test {
@@ -136,9 +155,9 @@ TEST(ThreadPoolTest, RunsTasksInOrderAndHandsOutResults) {
   std::vector<int> order;
   pool.Submit([&order] { order.push_back(1); });
   auto failure = pool.Submit([] { throw std::runtime_error("lost unless asked for"); });
-  pool.Submit([&order] { order.push_back(2); }).get();
+  pool.Submit([&order] { order.push_back(2); }).Get();
   EXPECT_EQ(order, (std::vector<int>{1, 2}));
-  EXPECT_THROW(failure.get(), std::runtime_error);
+  EXPECT_THROW(failure.Get(), std::runtime_error);
 }
 
 TEST(ThreadPoolTest, FinishesTheRunningTaskAndDropsTheQueuedOnes) {
@@ -179,6 +198,41 @@ TEST(ThreadPoolTest, ManyProducersManyWorkers) {
     });
   }
   done.get_future().wait();
+}
+
+// As many workers must wake up as there are tasks, however deep they sleep.
+TEST(ThreadPoolTest, EveryTaskFindsAWorkerOfItsOwn) {
+  constexpr int kWorkers = 4;
+  ThreadPool pool;
+  pool.Start(kWorkers);
+  for (int round = 0; round < 300; ++round) {
+    const auto together = std::make_shared<Meeting>(kWorkers + 1);
+    for (int i = 0; i < kWorkers; ++i) pool.Submit([together] { together->Join(); });
+    together->Join();
+    if (round % 10 == 0) std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  }
+}
+
+TEST(PackagedTaskTest, TellsOfMisuseAndOfTasksThatNeverRan) {
+  const auto code = [](const std::function<void()>& misuse) {
+    try {
+      misuse();
+    } catch (const std::future_error& error) {
+      return error.code();
+    }
+    return std::error_code();
+  };
+  EXPECT_EQ(code([] { core::Task(PackagedTask()).Execute(); }), std::future_errc::no_state);
+  auto [task, future] = Package([] {});
+  task->Execute();
+  EXPECT_EQ(code([&task = task] { task->Execute(); }), std::future_errc::promise_already_satisfied);
+  task.reset();
+  EXPECT_NO_THROW(future.Get());
+  TaskQueue queue;
+  queue.Invalidate();
+  auto [late, never] = Package([] {});
+  queue.Push(std::move(late));
+  EXPECT_EQ(code([&never = never] { never.Get(); }), std::future_errc::broken_promise);
 }
 
 TEST(TaskQueueTest, EndsWaitingWhenInvalidated) {

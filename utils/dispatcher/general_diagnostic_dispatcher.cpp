@@ -39,8 +39,8 @@ bool GeneralDiagnosticDispatcher::CanStart(const std::unique_ptr<core::DispatchR
 
 void GeneralDiagnosticDispatcher::Dispatch(std::unique_ptr<core::TaskInterface> task) {
   if (task == nullptr) return;
-  // Submit's function must be copyable, hence the shared ownership. Nobody waits for the outcome.
-  pool_.Submit([shared = std::shared_ptr<core::TaskInterface>(std::move(task))] { shared->Execute(); });
+  // Nobody waits for the outcome.
+  pool_.Post([owned = std::move(task)] { owned->Execute(); });
 }
 
 void GeneralDiagnosticDispatcher::NotifyStarted(const std::unique_ptr<core::DispatchRequest>& request) {

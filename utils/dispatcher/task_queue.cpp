@@ -3,21 +3,31 @@
 #include <stdexcept>
 #include <utility>
 
-void TaskQueue::Push(std::unique_ptr<orvik::core::TaskInterface> task) {
+void TaskQueue::Push(orvik::utils::QueuedTask task) {
+  bool call = false;
   {
     const std::lock_guard lock(mutex_);
     if (invalidated_) return;
     entries_.push_back(std::move(task));
+    call = CallsSleeper();
   }
-  available_.notify_one();
+  if (call) available_.notify_one();
 }
 
-std::unique_ptr<orvik::core::TaskInterface> TaskQueue::Pop() {
+orvik::utils::QueuedTask TaskQueue::Pop() {
   std::unique_lock lock(mutex_);
-  available_.wait(lock, [this] { return invalidated_ || !entries_.empty(); });
+  while (entries_.empty() && !invalidated_) {
+    ++sleeping_;
+    available_.wait(lock, [this] { return called_ || invalidated_; });
+    --sleeping_;
+    called_ = false;
+  }
   if (entries_.empty()) throw std::logic_error("Invalidated queue!");
   auto task = std::move(entries_.front());
   entries_.pop_front();
+  const bool call = CallsSleeper();
+  lock.unlock();
+  if (call) available_.notify_one();
   return task;
 }
 
@@ -31,4 +41,10 @@ void TaskQueue::Invalidate() {
     invalidated_ = true;
   }
   available_.notify_all();
+}
+
+bool TaskQueue::CallsSleeper() {
+  if (sleeping_ == 0 || called_ || entries_.empty()) return false;
+  called_ = true;
+  return true;
 }

@@ -2,11 +2,12 @@
 
 #include <atomic>
 #include <condition_variable>
+#include <cstddef>
 #include <deque>
 #include <memory>
 #include <mutex>
 
-#include "core/dispatcher.h"
+#include "utils/dispatcher/packaged_task.h"
 
 /// First in, first out, between any number of threads.
 class TaskQueue {
@@ -16,11 +17,12 @@ class TaskQueue {
   TaskQueue& operator=(const TaskQueue&) = delete;
   virtual ~TaskQueue() = default;
 
-  /// Appends the task and wakes one waiting consumer; destroys the task at once when the queue is invalidated.
-  void Push(std::unique_ptr<orvik::core::TaskInterface> task);
+  /// Appends the task and sees to it that one waiting consumer looks for it; destroys the task at once when the queue
+  /// is invalidated.
+  void Push(orvik::utils::QueuedTask task);
 
   /// Waits for an entry. Throws `std::logic_error` "Invalidated queue!" when the queue is invalidated and empty.
-  std::unique_ptr<orvik::core::TaskInterface> Pop();
+  orvik::utils::QueuedTask Pop();
 
   bool IsValid() const;
 
@@ -28,8 +30,17 @@ class TaskQueue {
   void Invalidate();
 
  private:
-  std::deque<std::unique_ptr<orvik::core::TaskInterface>> entries_;
+  /// Whether a sleeping consumer is to be notified; the books then have it called.
+  bool CallsSleeper();
+
+  std::deque<orvik::utils::QueuedTask> entries_;
   std::mutex mutex_;
   std::atomic<bool> invalidated_ = false;
   std::condition_variable available_;
+
+  // Waking a thread costs more than most entries' way through the queue. Therefore consumers are called one at a
+  // time, and the next one by whoever takes an entry and leaves others behind, so that all wake up where there is
+  // work for all.
+  std::size_t sleeping_ = 0;
+  bool called_ = false;  // one that has not woken up yet
 };

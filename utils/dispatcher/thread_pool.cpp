@@ -1,8 +1,6 @@
 #include "utils/dispatcher/thread_pool.h"
 
-#include <memory>
 #include <system_error>
-#include <utility>
 
 #include <windows.h>
 
@@ -18,13 +16,6 @@ void ThreadPool::Start(std::size_t workerCount) {
     Stop();
     throw std::system_error(std::make_error_code(std::errc::resource_unavailable_try_again));
   }
-}
-
-std::future<void> ThreadPool::Submit(std::function<void()> function) {
-  std::packaged_task<void()> task(std::move(function));
-  auto result = task.get_future();
-  queue_.Push(std::make_unique<orvik::core::Task<std::packaged_task<void()>>>(std::move(task)));
-  return result;
 }
 
 void ThreadPool::Stop() {

@@ -2,11 +2,11 @@
 
 #include <atomic>
 #include <cstdint>
-#include <functional>
-#include <future>
 #include <thread>
+#include <utility>
 #include <vector>
 
+#include "utils/dispatcher/packaged_task.h"
 #include "utils/dispatcher/task_queue.h"
 
 /// Worker threads over one task queue. Each worker is pinned to a processor mask of its own turn: 2, 3, 4, 1, 2, ...
@@ -22,7 +22,20 @@ class ThreadPool {
   void Start(std::size_t workerCount);
 
   /// Queues the function; its result or exception ends up in the future.
-  std::future<void> Submit(std::function<void()> function);
+  template <typename Function>
+  orvik::utils::TaskFuture Submit(Function function) {
+    auto [task, future] = orvik::utils::Package(std::move(function));
+    queue_.Push(std::move(task));
+    return std::move(future);
+  }
+
+  /// As `Submit` for whoever drops the future: it goes before the task can be on its way in another processor's
+  /// cache.
+  template <typename Function>
+  void Post(Function function) {
+    auto task = orvik::utils::Package(std::move(function)).first;
+    queue_.Push(std::move(task));
+  }
 
   /// Lets running tasks finish and joins every worker; queued tasks never run. Does nothing the second time. Must not
   /// be called on a worker.
