@@ -122,25 +122,24 @@ class TestScene final : public DeviceScene, private core::RunReporter {
     machine->Faults().Add({.operation = "STORELIB_CHECK_PROGRESS",
                            .call = 1,
                            .effects = {.patches = {{.offset = 0, .bytes = {1, 0, 0, 0, 0, 0x40}}}}});
-    report_.str({});
+    report_.clear();
     core::RunArguments arguments{.device = device, .abortFlag = &abort_, .reporter = this, .systemEvents = nullptr};
     const auto result = static_cast<int>(test_->Run(arguments));
-    report_ << result;
-    return {result >= 1 && result <= 5 && progress_ <= 100, report_.str()};
+    return {result >= 1 && result <= 5 && progress_ <= 100, report_ + std::to_string(result)};
   }
 
  private:
   void SetProgress(std::uint8_t percent) override { progress_ = percent; }
-  void AddMessage(const core::TestMessage& message) override { report_ << message.text << '\n'; }
+  void AddMessage(const core::TestMessage& message) override { report_ += message.text + '\n'; }
   void Ask(std::unique_ptr<core::InputInteraction>& question) override {
     dynamic_cast<utils::GuiDialogInputInteraction&>(*question).request->answer = 1;
-    report_ << "asked\n";
+    report_ += "asked\n";
   }
 
   const module::raid::Module module_;
   const std::unique_ptr<core::Test> test_;
   const core::AbortFlag abort_ = 0;
-  std::ostringstream report_;
+  std::string report_;
   int progress_ = 0;
 };
 

@@ -34,7 +34,7 @@ class Scene {
 using MakeScene = std::function<std::unique_ptr<Scene>()>;
 
 /// Runs the scene with each of its outside calls failing in each way in which it can, and with memory running out at
-/// points spread over the run. Expects a defined answer each time, nothing kept at the end, and the healthy answer
+/// each of its allocations. Expects a defined answer each time, nothing kept at the end, and the healthy answer
 /// of the same scene right after. Returns the number of failing runs.
 std::size_t SweepFaults(const MakeScene& make);
 
