@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-minutes=$1
+minutes=${1:?scripts/soak.sh MINUTES [PLOT]}
 plot=${2:-docs/images/soak.svg}
 scripts/packages.sh build bench
 mkdir -p build

@@ -42,14 +42,7 @@ class Host final : public core::ScanListener, public core::RunReporter {
   void Ask(std::unique_ptr<core::InputInteraction>& /*question*/) override {}
 };
 
-class FunctionTask final : public core::TaskInterface {
- public:
-  explicit FunctionTask(std::function<void()> function) : function_(std::move(function)) {}
-  void Execute() override { function_(); }
-
- private:
-  std::function<void()> function_;
-};
+using FunctionTask = core::Task<std::function<void()>>;
 
 /// The library and its module object.
 class LoadedModule {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <numeric>
 
 #include "module/storage/scsi/scsi_commands.h"
@@ -27,27 +28,14 @@ Bytes PhyEntry() {
 
 void ExpectHeader(const CsmiPacket& packet, const std::string& signature, std::uint8_t code, std::size_t size) {
   ASSERT_EQ(packet.View().Size(), size);
-  Bytes header = {28, 0, 0, 0};
-  header.insert(header.end(), signature.begin(), signature.end());
   const auto length = static_cast<std::uint32_t>(size - 28);
-  const Bytes rest = {0,
-                      60,
-                      0,
-                      0,
-                      0,
-                      code,
-                      0,
-                      0,
-                      0,
-                      0,
-                      0,
-                      0,
-                      0,
-                      static_cast<std::uint8_t>(length),
-                      static_cast<std::uint8_t>(length >> 8),
-                      0,
-                      0};
-  header.insert(header.end(), rest.begin(), rest.end());
+  Bytes header(28);
+  header[0] = 28;
+  std::ranges::copy(signature, header.begin() + 4);
+  header[12] = 60;
+  header[16] = code;
+  header[24] = static_cast<std::uint8_t>(length);
+  header[25] = static_cast<std::uint8_t>(length >> 8);
   EXPECT_EQ(Slice(packet, 0, 28), header);
 }
 

@@ -20,14 +20,7 @@ namespace {
 using namespace orvik::testing;
 using core::DispatchRequest;
 
-class FunctionTask final : public core::TaskInterface {
- public:
-  explicit FunctionTask(std::function<void()> function) : function_(std::move(function)) {}
-  void Execute() override { function_(); }
-
- private:
-  std::function<void()> function_;
-};
+using FunctionTask = core::Task<std::function<void()>>;
 
 /// Four controllers, two of each family; a check on the second family's drives goes on until it is aborted.
 std::shared_ptr<simulation::Machine> InstallFourControllers() {

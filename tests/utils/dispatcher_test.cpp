@@ -44,14 +44,7 @@ class IdleTest final : public core::Test {
   bool exclusive_;
 };
 
-class FunctionTask final : public core::TaskInterface {
- public:
-  explicit FunctionTask(std::function<void()> function) : function_(std::move(function)) {}
-  void Execute() override { function_(); }
-
- private:
-  std::function<void()> function_;
-};
+using FunctionTask = core::Task<std::function<void()>>;
 
 class Meeting {
  public:
