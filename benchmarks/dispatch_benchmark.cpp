@@ -7,7 +7,6 @@
 #include <QtConcurrent>
 
 #include <atomic>
-#include <latch>
 #include <memory>
 #include <thread>
 #include <vector>

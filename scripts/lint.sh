@@ -36,7 +36,7 @@ only_in 'reinterpret_cast|__attribute__\(\(packed|#pragma pack' \
   utils/windows/unique_handle.h platform/hostkit/libraries.cpp platform/windows host/library
 only_in '\b(CloseHandle|SetupDiDestroyDeviceInfoList)\(' \
   "handles belong to owners" utils/windows/unique_handle.h platform/windows
-hits=$(git grep --untracked -nE '#include <(latch|barrier|semaphore)>' -- core utils module platform simulation host tests)
+hits=$(git grep --untracked -nE '#include <(latch|barrier|semaphore)>' -- '*.h' '*.cpp')
 [ -z "$hits" ] || broken "these lose wake-ups in GCC 12's library for Windows: use a promise or a condition variable"$'\n'"$hits"
 only_in '^ *# *(ifdef|ifndef|if) ' \
   "the sources are the same on every platform" platform host

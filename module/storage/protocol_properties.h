@@ -11,7 +11,9 @@ namespace orvik::module::storage {
 struct ProtocolProperties {
   ProtocolProperties() = default;
   ProtocolProperties(const ProtocolProperties&) = default;
+  ProtocolProperties(ProtocolProperties&&) = default;
   ProtocolProperties& operator=(const ProtocolProperties&) = default;
+  ProtocolProperties& operator=(ProtocolProperties&&) = default;
   virtual ~ProtocolProperties() = default;
 
   std::string protocolName;                     ///< "ATA", "SCSI" or "NVMe"

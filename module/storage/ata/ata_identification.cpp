@@ -5,6 +5,7 @@
 #include <new>
 #include <span>
 #include <string>
+#include <utility>
 
 #include "module/storage/ata/ata_protocol.h"
 #include "module/storage/ata/identify_data.h"
@@ -35,7 +36,7 @@ Status AtaProtocol::GetProperties(ProtocolProperties* properties) {
   if (properties == nullptr) return status::kBadArgument;
   ProtocolProperties identified;
   if (const Status result = IdentifyInto(identified); result != status::kSuccess) return result;
-  *properties_ = identified;
+  *properties_ = std::move(identified);
   CopyProperties(*properties);
   return status::kSuccess;
 }

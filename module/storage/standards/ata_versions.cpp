@@ -63,6 +63,7 @@ static_assert(IsInCodeOrder(kMinorVersions));
 }  // namespace
 
 void AppendAtaMajorVersions(std::uint16_t versions, std::vector<std::string>& names) {
+  names.reserve(names.size() + kMajorVersions.size());
   if (versions != kNotReported && versions != kNotReportedEither) {
     for (const auto& version : kMajorVersions) {
       if ((versions >> version.bit & 1) != 0) names.emplace_back(version.name);
