@@ -6,6 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 quick=${1:-}
+case "$quick" in ''|--quick) ;; *) echo "benchmarks/run.sh [--quick]" >&2; exit 2 ;; esac
 scripts/packages.sh build bench
 results=build/benchmarks
 mkdir -p "$results"
