@@ -66,10 +66,4 @@ TEST(WindowsHeadersTest, ProgramDataIsTheKnownFolder) {
   EXPECT_TRUE(FOLDERID_ProgramData == expected);
 }
 
-TEST(WindowsHeadersTest, LastErrorIsPerCall) {
-  SetLastError(ERROR_NO_MORE_ITEMS);
-  EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NO_MORE_ITEMS));
-  SetLastError(0);
-}
-
 }  // namespace

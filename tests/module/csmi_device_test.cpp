@@ -183,24 +183,6 @@ TEST(CsmiDeviceTest, ReportsWhichPacketFailed) {
   }
 }
 
-TEST(CsmiDeviceTest, ClampsAbsurdCounts) {
-  for (const auto& [packet, offset] :
-       {std::pair("CC_CSMI_SAS_GET_PHY_INFO", 28), std::pair("CC_CSMI_SAS_GET_RAID_INFO", 28),
-        std::pair("CC_CSMI_SAS_GET_RAID_INFO", 32), std::pair("CC_CSMI_SAS_GET_RAID_CONFIG", 43)}) {
-    const auto machine = Install({.adapters = {Mirror()}});
-    const auto device = OpenDevice();
-    const std::vector<std::uint8_t> absurd(offset == 43 || packet == std::string("CC_CSMI_SAS_GET_PHY_INFO") ? 1 : 4,
-                                           0xFF);
-    machine->Faults().Add(Patch(packet, static_cast<std::size_t>(offset), absurd));
-    std::vector<LogicalDrive> logical;
-    std::vector<PhysicalDrive> physical;
-    EXPECT_EQ(device->GetLogicalDrives(logical), 0U) << packet;
-    EXPECT_EQ(logical.size(), 1U) << packet;
-    EXPECT_EQ(device->GetPhysicalDrives(physical), 0U) << packet;
-    EXPECT_EQ(physical.size(), 2U) << packet;
-  }
-}
-
 TEST(CsmiDeviceTest, AsksForAtMost256Sets) {
   const auto machine = Install({.adapters = {Mirror()}});
   const auto device = OpenDevice();

@@ -165,33 +165,6 @@ TEST(MemberDrivesTest, ReadNvmeSectorsOfTheirOwnDrive) {
   EXPECT_EQ(members[1].protocolObject->Write(kLba, 2, 0, data.data()), 4U);
 }
 
-TEST(MemberDrivesTest, ShortenTheCdbForDrivesThatRefuseTheLongOne) {
-  struct Case {
-    std::uint64_t sectors;
-    std::vector<std::uint8_t> refused;
-    std::uint32_t status;
-    std::uint64_t read16;
-    std::uint64_t packetsOfTwoReads;
-  };
-  for (const Case& row : {Case{1953525168, {0x88}, 0, 1, 3},        // READ(12) from the second call on
-                          Case{1953525168, {0x88, 0xA8}, 0, 1, 4},  // READ(10) from the second call on
-                          Case{1953525168, {0x88, 0xA8, 0x28}, 78, 1, 4}, Case{k32Bits + 1, {0x88}, 79, 2, 2}}) {
-    auto drive = Sas();
-    drive.sectors = row.sectors;
-    drive.unsupportedOpcodes = row.refused;
-    const auto machine = InstallController({drive});
-    const auto device = OpenDevice();
-    const auto members = Members(*device);
-    storage::Protocol& protocol = *members.at(0).protocolObject;
-    ProtocolProperties properties;
-    ASSERT_EQ(protocol.GetProperties(&properties), 0U);
-    const auto before = machine->Faults().CallsMade("CC_CSMI_SAS_SSP_PASSTHRU");
-    std::vector<std::uint8_t> sector(512);
-    for (int call = 0; call < 2; ++call) EXPECT_EQ(protocol.Read(7, 1, 30, sector.data(), 512), row.status);
-    EXPECT_EQ(machine->Faults().CallsMade("CC_CSMI_SAS_SSP_PASSTHRU") - before, row.packetsOfTwoReads);
-  }
-}
-
 TEST(MemberDrivesTest, TellHowTheyAre) {
   auto sata = Sata();
   sata.rotationRate = kSolidState;
@@ -262,32 +235,6 @@ TEST(MemberDrivesTest, TestThemselves) {
       EXPECT_EQ(result, 1);
     }
   }
-}
-
-TEST(MemberDrivesTest, KeepAnUnreadableSectorUntilItIsWritten) {
-  InstallController({Sata()});
-  const auto device = OpenDevice();
-  const auto members = Members(*device);
-  storage::Protocol& drive = *members.at(0).protocolObject;
-  ProtocolProperties properties;
-  ASSERT_EQ(drive.GetProperties(&properties), 0U);
-  std::vector<std::uint8_t> sector(512);
-  EXPECT_EQ(drive.WriteUncorrectable(k28Bits + 5), 0U);
-  EXPECT_EQ(drive.Read(k28Bits + 5, 1, 30, sector.data(), 512), 75U);
-  EXPECT_EQ(drive.Write(k28Bits + 5, 1, 0, sector.data()), 0U);
-  EXPECT_EQ(drive.Read(k28Bits + 5, 1, 30, sector.data(), 512), 0U);
-}
-
-TEST(MemberDrivesTest, TakeTheSecondBridgeWhenTheFirstFails) {
-  const auto machine = std::make_shared<Machine>(MachineDescription{.physicalDrives = {{.drive = Sata()}}});
-  InstallMachine(machine);
-  const auto handle = OpenPhysicalDrive(0);
-  storage::AtaProtocol drive;
-  drive.AddBridge(std::make_shared<storage::AtaBridge>(INVALID_HANDLE_VALUE));
-  drive.AddBridge(std::make_shared<storage::AtaBridge>(handle.Get()));
-  ProtocolProperties properties;
-  EXPECT_EQ(drive.GetProperties(&properties), 0U);
-  EXPECT_EQ(drive.GetHandle(), handle.Get());
 }
 
 TEST(MemberDrivesTest, AskTheSystemWhenTheDriveCannotTell) {

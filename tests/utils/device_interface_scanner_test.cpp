@@ -5,7 +5,6 @@
 #include "simulation/machine/current_machine.h"
 #include "utils/devices/win_device_interface_scanner.h"
 #include "utils/dispatcher/thread_pool.h"
-#include "utils/windows/unique_handle.h"
 
 namespace {
 
@@ -66,18 +65,6 @@ TEST(WinDeviceInterfaceScannerTest, ReadsProperties) {
   EXPECT_EQ(scanner.GetDeviceProperty(1, SPDRP_DEVICEDESC, text, size), 1U);
   EXPECT_EQ(scanner.GetDeviceProperty(2, SPDRP_DEVICEDESC, text, size), 1U);
   EXPECT_EQ(text, nullptr);
-}
-
-TEST(WinDeviceInterfaceScannerTest, OpensInterfaces) {
-  const auto adapter = PciRaidAdapter("2822", 1);
-  Install({adapter});
-  WinDeviceInterfaceScanner scanner;
-  HANDLE handle = nullptr;
-  EXPECT_EQ(scanner.OpenDevice(adapter.interfaces[0].path, handle), 0U);
-  const orvik::utils::UniqueHandle owner(handle);
-  EXPECT_TRUE(owner);
-  EXPECT_EQ(scanner.OpenDevice(R"(\\?\pci#gone)", handle), 2U);
-  EXPECT_EQ(handle, INVALID_HANDLE_VALUE);
 }
 
 TEST(ThreadPoolTest, PinsItsWorkersInTurn) {

@@ -174,25 +174,6 @@ TEST(ThreadPoolTest, FinishesTheRunningTaskAndDropsTheQueuedOnes) {
   EXPECT_FALSE(queuedRan);
 }
 
-TEST(ThreadPoolTest, ManyProducersManyWorkers) {
-  std::atomic<int> count = 0;
-  std::promise<void> done;
-  ThreadPool pool;
-  pool.Start(4);
-  std::vector<std::jthread> producers;
-  producers.reserve(4);
-  for (int producer = 0; producer < 4; ++producer) {
-    producers.emplace_back([&] {
-      for (int i = 0; i < 100; ++i) {
-        pool.Submit([&] {
-          if (++count == 400) done.set_value();
-        });
-      }
-    });
-  }
-  done.get_future().wait();
-}
-
 // As many workers must wake up as there are tasks, however deep they sleep.
 TEST(ThreadPoolTest, EveryTaskFindsAWorkerOfItsOwn) {
   constexpr int kWorkers = 4;
