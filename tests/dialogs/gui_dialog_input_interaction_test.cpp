@@ -105,7 +105,7 @@ TEST_F(GuiDialogInputInteractionTest, WorkerWaitsForTheAnswer) {
   EXPECT_NE(foreground.front(), 0U);
 }
 
-TEST_F(GuiDialogInputInteractionTest, AbortClosesTheDialogWithinASecondOrSo) {
+TEST_F(GuiDialogInputInteractionTest, AbortClosesTheDialogSoon) {
   for (const bool beforehand : {false, true}) {
     core::AbortFlag abort = beforehand ? 1 : 0;
     core::RunArguments arguments;
@@ -121,7 +121,7 @@ TEST_F(GuiDialogInputInteractionTest, AbortClosesTheDialogWithinASecondOrSo) {
       abort = 1;
       time.start();
     });
-    EXPECT_LT(time.elapsed(), 2000);
+    EXPECT_LT(time.elapsed(), 5000);  // a busy machine takes its time, too
     EXPECT_EQ(request->answer, 0U);
     EXPECT_EQ(interaction.result, 0U);
   }

@@ -113,13 +113,13 @@ TEST_F(HighContrastTest, DialogFollowsTheSystemThereAndBack) {
   desktop.highContrast = true;
   desktop.colors = {{8, 0x0A0B0C}, {1, 0x0D0E0F}};
   machine->Desktop().Change(desktop);
-  EXPECT_TRUE(WaitFor([&] { return dialog.styleSheet() != normal; }, 1000));
+  EXPECT_TRUE(WaitFor([&] { return dialog.styleSheet() != normal; }, 5000));
   EXPECT_TRUE(
       dialog.styleSheet().contains("QWidget#border_widget{background-color:#0d0e0f;border:1px solid #0a0b0c;"));
   EXPECT_TRUE(QFile(IconPath(dialog)).exists());
   desktop.highContrast = false;
   machine->Desktop().Change(desktop);
-  EXPECT_TRUE(WaitFor([&] { return dialog.styleSheet() == normal; }, 1000));
+  EXPECT_TRUE(WaitFor([&] { return dialog.styleSheet() == normal; }, 5000));
 }
 
 TEST_F(HighContrastTest, IconsAreCopiedInTheTextColorForAsLongAsTheDialogLives) {
@@ -173,7 +173,7 @@ TEST_F(HighContrastTest, OnlyThemeChangesAreTakenFromTheMessages) {
   EXPECT_EQ(dialog.styleSheet(), "another");
   EXPECT_TRUE(send("windows_generic_MSG", 0x031A));
   EXPECT_EQ(dialog.styleSheet(), "another");
-  EXPECT_TRUE(WaitFor([&] { return dialog.styleSheet() != "another"; }, 1000));
+  EXPECT_TRUE(WaitFor([&] { return dialog.styleSheet() != "another"; }, 5000));
 }
 
 TEST_F(HighContrastTest, AccessibilityObjectOutlivesItsDialog) {
