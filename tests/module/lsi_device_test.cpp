@@ -235,7 +235,7 @@ TEST(LsiDeviceTest, FollowsAConsistencyCheck) {
   bool consistent = false;
   EXPECT_EQ(device->GetConsistencyCheckResult(5, 0x0105, consistent), 0U);
   EXPECT_TRUE(consistent);
-  device->StartConsistencyCheck(5, 0x0105);
+  EXPECT_EQ(device->StartConsistencyCheck(5, 0x0105), 0U);
   machine->Clock().Advance(100'000);
   EXPECT_EQ(device->GetConsistencyCheckResult(5, 0x0105, consistent), 0U);
   EXPECT_FALSE(consistent);

@@ -27,7 +27,7 @@ CsmiDevice::CsmiDevice(CsmiAdapter adapter)
   identifier = std::move(adapter.pciDeviceId);
 }
 
-storage::Status CsmiDevice::GetControllerInfo(ControllerInfo& info) {
+std::uint32_t CsmiDevice::GetControllerInfo(ControllerInfo& info) {
   ControllerConfigurationPacket configuration;
   if (const auto sent = ExchangeCsmiPacket(port_.Get(), configuration); sent != status::kSuccess) return sent;
   RaidInformationPacket raidInformation;
@@ -58,7 +58,7 @@ storage::Status CsmiDevice::VisitRaidSets(const RaidInformationPacket& informati
   return status::kSuccess;
 }
 
-storage::Status CsmiDevice::GetLogicalDrives(std::vector<LogicalDrive>& drives) {
+std::uint32_t CsmiDevice::GetLogicalDrives(std::vector<LogicalDrive>& drives) {
   RaidInformationPacket information;
   if (const auto sent = ExchangeCsmiPacket(port_.Get(), information); sent != status::kSuccess) return sent;
   return VisitRaidSets(information, [&drives](std::uint32_t index, const RaidConfigurationPacket& set) {
@@ -66,7 +66,7 @@ storage::Status CsmiDevice::GetLogicalDrives(std::vector<LogicalDrive>& drives) 
   });
 }
 
-storage::Status CsmiDevice::GetPhysicalDrives(std::vector<PhysicalDrive>& drives) {
+std::uint32_t CsmiDevice::GetPhysicalDrives(std::vector<PhysicalDrive>& drives) {
   PhyInformationPacket information;
   if (const auto sent = ExchangeCsmiPacket(port_.Get(), information); sent != status::kSuccess) return sent;
   for (const utils::ByteView entry : information.Phys()) {
@@ -86,7 +86,7 @@ void CsmiDevice::AddNvmeMembers(std::vector<PhysicalDrive>& drives) {
   // The count is taken as it came back, whatever the ReturnCode; members found before a failure are kept.
   RaidInformationPacket information;
   if (SendCsmiPacket(port_.Get(), information) != status::kSuccess) return;
-  VisitRaidSets(information, [&drives](std::uint32_t, const RaidConfigurationPacket& set) {
+  storage::Ignore(VisitRaidSets(information, [&drives](std::uint32_t, const RaidConfigurationPacket& set) {
     for (const utils::ByteView entry : set.Drives()) {
       if (!IsNvmeMember(entry)) continue;
       PhysicalDrive drive;
@@ -94,7 +94,7 @@ void CsmiDevice::AddNvmeMembers(std::vector<PhysicalDrive>& drives) {
       drive.serial = entry.Text(csmi::raid_drive::kSerialNumber);
       drives.push_back(std::move(drive));
     }
-  });
+  }));
 }
 
 storage::Status CsmiDevice::GetControllerStatus(std::uint32_t& status, std::uint32_t& offlineReason) {

@@ -16,10 +16,10 @@ class CsmiDevice final : public Device {
  public:
   explicit CsmiDevice(CsmiAdapter adapter);
 
-  storage::Status GetControllerInfo(ControllerInfo& info) override;
-  storage::Status GetLogicalDrives(std::vector<LogicalDrive>& drives) override;
-  storage::Status GetPhysicalDrives(std::vector<PhysicalDrive>& drives) override;
-  storage::Status GetStorageDevices(std::vector<StorageDeviceEntry>& devices) override;
+  std::uint32_t GetControllerInfo(ControllerInfo& info) override;
+  std::uint32_t GetLogicalDrives(std::vector<LogicalDrive>& drives) override;
+  std::uint32_t GetPhysicalDrives(std::vector<PhysicalDrive>& drives) override;
+  std::uint32_t GetStorageDevices(std::vector<StorageDeviceEntry>& devices) override;
 
   /// The controller's status (1 good, 2 failed, 3 offline, 4 powered off) and why it is offline. 0, 34 or 66.
   storage::Status GetControllerStatus(std::uint32_t& status, std::uint32_t& offlineReason);

@@ -39,7 +39,7 @@ StorageDeviceEntry AttachedDrive(HANDLE port, utils::ByteView phyEntry) {
 
 }  // namespace
 
-storage::Status CsmiDevice::GetStorageDevices(std::vector<StorageDeviceEntry>& devices) {
+std::uint32_t CsmiDevice::GetStorageDevices(std::vector<StorageDeviceEntry>& devices) {
   PhyInformationPacket information;
   if (const auto sent = ExchangeCsmiPacket(port_.Get(), information); sent != status::kSuccess) return sent;
   for (const utils::ByteView entry : information.Phys()) {

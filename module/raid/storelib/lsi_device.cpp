@@ -48,7 +48,7 @@ storage::Status LsiDevice::Send(LsiCommand& command) const {
   return sender->SendCommand(command) == 0 ? status::kSuccess : status::kFailure;
 }
 
-storage::Status LsiDevice::GetControllerInfo(ControllerInfo& info) {
+std::uint32_t LsiDevice::GetControllerInfo(ControllerInfo& info) {
   LsiCommand information = ControllerCommand(lsi::code::kControllerInformation, controllerId);
   if (const auto sent = Send(information); sent != status::kSuccess) return sent;
   using namespace lsi::controller_information;
@@ -66,7 +66,7 @@ storage::Status LsiDevice::GetControllerInfo(ControllerInfo& info) {
   return status::kSuccess;
 }
 
-storage::Status LsiDevice::GetLogicalDrives(std::vector<LogicalDrive>& drives) {
+std::uint32_t LsiDevice::GetLogicalDrives(std::vector<LogicalDrive>& drives) {
   drives.clear();
   LsiCommand list = ControllerCommand(lsi::code::kLogicalDriveList, controllerId);
   if (const auto sent = Send(list); sent != status::kSuccess) return sent;
@@ -98,7 +98,7 @@ bool LsiDevice::DescribeLogicalDrive(std::uint8_t targetId, std::uint16_t sequen
   return true;
 }
 
-storage::Status LsiDevice::GetPhysicalDrives(std::vector<PhysicalDrive>& drives) {
+std::uint32_t LsiDevice::GetPhysicalDrives(std::vector<PhysicalDrive>& drives) {
   drives.clear();
   LsiCommand list = ControllerCommand(lsi::code::kPhysicalDriveList, controllerId);
   storage::Status result = Send(list);

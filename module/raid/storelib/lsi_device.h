@@ -28,12 +28,12 @@ class LsiDevice final : public Device {
  public:
   LsiDevice(std::uint32_t id, std::shared_ptr<LsiSender> librarySender);
 
-  storage::Status GetControllerInfo(ControllerInfo& info) override;
+  std::uint32_t GetControllerInfo(ControllerInfo& info) override;
   /// Empties the list first. A drive whose own commands fail is left out.
-  storage::Status GetLogicalDrives(std::vector<LogicalDrive>& drives) override;
+  std::uint32_t GetLogicalDrives(std::vector<LogicalDrive>& drives) override;
   /// Empties the list first. A drive whose own command fails is left out; the result is that of the last drive.
-  storage::Status GetPhysicalDrives(std::vector<PhysicalDrive>& drives) override;
-  storage::Status GetStorageDevices(std::vector<StorageDeviceEntry>& devices) override;
+  std::uint32_t GetPhysicalDrives(std::vector<PhysicalDrive>& drives) override;
+  std::uint32_t GetStorageDevices(std::vector<StorageDeviceEntry>& devices) override;
 
   storage::Status GetBatteryStatus(BatteryStatus& battery);
   /// Appends to the list.

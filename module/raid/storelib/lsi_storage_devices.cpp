@@ -13,7 +13,7 @@
 
 namespace orvik::module::raid {
 
-storage::Status LsiDevice::GetStorageDevices(std::vector<StorageDeviceEntry>& devices) {
+std::uint32_t LsiDevice::GetStorageDevices(std::vector<StorageDeviceEntry>& devices) {
   std::vector<PhysicalDrive> drives;
   const storage::Status listed = GetPhysicalDrives(drives);
   if (listed != storage::status::kSuccess) return listed;
