@@ -8,8 +8,8 @@
 
 #include "benchmarks/machines.h"
 #include "benchmarks/outside_calls.h"
-#include "module/raid/diagnostics/check_consistency_test.h"
-#include "module/raid/storelib/lsi_device.h"
+#include "module/raid/diagnostics/check_consistency.h"
+#include "module/raid/storelib/storelib_device.h"
 
 namespace orvik::benchmarks {
 namespace {

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "module/raid/storelib/lsi_layout.h"
+#include "module/raid/storelib/storelib_layout.h"
 #include "utils/bytes/byte_view.h"
 
 namespace orvik::benchmarks {

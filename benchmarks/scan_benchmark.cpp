@@ -8,7 +8,7 @@
 #include "benchmarks/heap_meter.h"
 #include "benchmarks/machines.h"
 #include "benchmarks/outside_calls.h"
-#include "module/raid/device_scanner.h"
+#include "module/raid/entry/device_scanner.h"
 
 namespace orvik::benchmarks {
 namespace {

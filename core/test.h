@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/device.h"
-#include "core/test_run.h"
+#include "core/run_arguments.h"
 
 namespace orvik::core {
 

@@ -4,7 +4,7 @@
 
 #include "fuzz/host.h"
 #include "fuzz/input.h"
-#include "module/raid/device_scanner.h"
+#include "module/raid/entry/device_scanner.h"
 #include "simulation/json/readers.h"
 #include "simulation/machine/current_machine.h"
 

@@ -3,7 +3,7 @@
 
 #include "fuzz/faults_from_input.h"
 #include "fuzz/host.h"
-#include "module/raid/device_scanner.h"
+#include "module/raid/entry/device_scanner.h"
 #include "module/storage/ata/ata_protocol.h"
 #include "module/storage/scsi/scsi_protocol.h"
 #include "simulation/machine/current_machine.h"

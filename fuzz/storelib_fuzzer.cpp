@@ -2,7 +2,7 @@
 
 #include "fuzz/faults_from_input.h"
 #include "fuzz/host.h"
-#include "module/raid/storelib/lsi_device.h"
+#include "module/raid/storelib/storelib_device.h"
 #include "simulation/machine/current_machine.h"
 
 extern "C" int LLVMFuzzerInitialize(int* /*count*/, char*** /*arguments*/) {

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "core/test_run.h"
+#include "core/run_arguments.h"
 #include "host/drives/drive.h"
 #include "host/inventory/controller_details.h"
 

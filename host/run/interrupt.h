@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/test_run.h"
+#include "core/run_arguments.h"
 
 namespace orvik::host {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "core/dispatcher.h"
-#include "core/test_run.h"
+#include "core/run_arguments.h"
 #include "host/inventory/device_list.h"
 #include "host/run/run_recorder.h"
 

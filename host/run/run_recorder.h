@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "core/test_run.h"
+#include "core/run_arguments.h"
 #include "host/question/question_desk.h"
 
 namespace orvik::host {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/dispatcher.h"
-#include "core/test_run.h"
+#include "core/run_arguments.h"
 #include "host/run/run.h"
 #include "host/run/run_task.h"
 

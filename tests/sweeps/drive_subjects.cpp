@@ -8,7 +8,7 @@
 
 #include "module/storage/ata/ata_protocol.h"
 #include "module/storage/scsi/scsi_protocol.h"
-#include "tests/module/storelib_machines.h"
+#include "tests/module/raid/storelib/storelib_machines.h"
 #include "tests/sweeps/subjects.h"
 #include "utils/devices/win_device_interface_scanner.h"
 

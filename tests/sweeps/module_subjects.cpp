@@ -3,8 +3,8 @@
 #include <sstream>
 #include <utility>
 
-#include "module/raid/module.h"
-#include "tests/module/storelib_machines.h"
+#include "module/raid/entry/module.h"
+#include "tests/module/raid/storelib/storelib_machines.h"
 #include "tests/sweeps/subjects.h"
 #include "utils/dialogs/gui_dialog_input_interaction.h"
 

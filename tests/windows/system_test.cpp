@@ -11,7 +11,7 @@
 #include <thread>
 
 #include "module/raid/csmi/csmi_adapter.h"
-#include "module/raid/driver_version.h"
+#include "module/raid/family/driver_version.h"
 #include "utils/devices/win_device_interface_scanner.h"
 #include "utils/dispatcher/thread_pool.h"
 #include "utils/text/text_conversion.h"

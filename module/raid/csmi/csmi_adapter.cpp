@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "module/raid/csmi/csmi_packet.h"
-#include "module/raid/driver_version.h"
+#include "module/raid/family/driver_version.h"
 #include "utils/devices/win_device_interface_scanner.h"
 
 namespace orvik::module::raid {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "module/raid/register_fis.h"
+#include "module/raid/family/register_fis.h"
 
 namespace orvik::module::raid {
 

@@ -7,7 +7,7 @@
 
 #include "module/raid/csmi/drive_identification.h"
 #include "module/raid/csmi/raid_set.h"
-#include "module/raid/driver_version.h"
+#include "module/raid/family/driver_version.h"
 #include "utils/windows/unique_handle.h"
 
 namespace orvik::module::raid {

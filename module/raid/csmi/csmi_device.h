@@ -6,7 +6,7 @@
 
 #include "module/raid/csmi/csmi_adapter.h"
 #include "module/raid/csmi/csmi_packet.h"
-#include "module/raid/device.h"
+#include "module/raid/family/device.h"
 
 namespace orvik::module::raid {
 

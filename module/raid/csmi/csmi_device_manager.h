@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/raid/device_manager.h"
+#include "module/raid/family/device_manager.h"
 
 namespace orvik::module::raid {
 

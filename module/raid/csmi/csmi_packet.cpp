@@ -6,7 +6,7 @@
 // Needs what comes before it.
 #include <ntddscsi.h>
 
-#include "module/raid/register_fis.h"
+#include "module/raid/family/register_fis.h"
 
 namespace orvik::module::raid {
 

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "module/raid/csmi/csmi_packet.h"
-#include "module/raid/register_fis.h"
+#include "module/raid/family/register_fis.h"
 #include "module/storage/ata/ata_commands.h"
 #include "module/storage/ata/identify_data.h"
 #include "module/storage/scsi/inquiry_data.h"

@@ -8,7 +8,7 @@
 #include "module/raid/csmi/csmi_bridges.h"
 #include "module/raid/csmi/csmi_device.h"
 #include "module/raid/csmi/csmi_layout.h"
-#include "module/raid/protocol_object.h"
+#include "module/raid/family/protocol_object.h"
 #include "module/storage/ata/ata_protocol.h"
 #include "module/storage/nvme/nvme_protocol.h"
 #include "module/storage/nvme/path_scan.h"

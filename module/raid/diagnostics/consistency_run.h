@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "module/raid/diagnostics/check_consistency_test.h"
-#include "module/raid/storelib/lsi_device.h"
+#include "module/raid/diagnostics/check_consistency.h"
+#include "module/raid/storelib/storelib_device.h"
 
 namespace orvik::module::raid {
 

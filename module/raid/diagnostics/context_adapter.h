@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/input_interaction.h"
-#include "core/test_run.h"
+#include "core/run_arguments.h"
 
 namespace legacy {
 
