@@ -1,7 +1,6 @@
 #include "utils/dialogs/dpi.h"
 
 #include <QApplication>
-#include <QPointer>
 #include <QScreen>
 #include <algorithm>
 #include <array>
@@ -65,18 +64,26 @@ QSize Dpi::Detected() {
 }
 
 const Dpi* Dpi::Instance() {
-  static QPointer<Dpi>& instance = *new QPointer<Dpi>;
   const QWidgetList topLevel = QApplication::topLevelWidgets();
-  if (instance.isNull() && !topLevel.isEmpty()) {
+  if (instance_ == nullptr && !topLevel.isEmpty()) {
     static const QSize dpi = Detected();
-    instance = new Dpi(topLevel.first(), {Step(dpi.width()), Step(dpi.height())});
+    instance_ = new Dpi(topLevel.first(), {Step(dpi.width()), Step(dpi.height())});
   }
-  return instance;
+  return instance_;
+}
+
+void Dpi::Release() {
+  delete instance_;
 }
 
 Dpi::Dpi(QWidget* parent, QSize dpi) : QWidget(parent), horizontal_(dpi.width()), vertical_(dpi.height()) {
-  // It only stands for a screen: shown with its parent it would lie over what is there.
+  // Shown with its parent it would cover what is below it.
   hide();
+}
+
+// Its parent may delete it.
+Dpi::~Dpi() {
+  instance_ = nullptr;
 }
 
 int Dpi::Step(int dpi) {

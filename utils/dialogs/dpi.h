@@ -6,9 +6,16 @@
 /// The DPI of the primary monitor in five steps, and the sizes of dialogs that follow from it. GUI thread only.
 class Dpi : public QWidget {
  public:
-  /// The process's own, made on first use as a hidden child of the application's first top-level widget, and made
-  /// again when that has gone; null while there is no top-level widget. The monitor is asked only once.
+  Dpi(const Dpi&) = delete;
+  Dpi& operator=(const Dpi&) = delete;
+  ~Dpi() override;
+
+  /// The process's only one, created on first use as a hidden child of the application's first top-level widget; null
+  /// while there is no top-level widget. The monitor is queried only once. Valid until `Release` or until its parent
+  /// is destroyed; the next call creates it again.
   static const Dpi* Instance();
+  /// Takes the instance out of its parent, which may be a window of the host and outlive this library.
+  static void Release();
 
   /// What the system says about the primary monitor, or else Qt about the screen.
   static QSize Detected();
@@ -25,6 +32,7 @@ class Dpi : public QWidget {
  private:
   Dpi(QWidget* parent, QSize dpi);
 
+  static inline Dpi* instance_ = nullptr;
   int horizontal_;
   int vertical_;
 };

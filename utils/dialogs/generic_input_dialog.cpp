@@ -71,7 +71,9 @@ GenericInputDialog::GenericInputDialog(InputRequest* request, std::string transl
   adjustSize();
 }
 
-GenericInputDialog::~GenericInputDialog() = default;
+GenericInputDialog::~GenericInputDialog() {
+  Dpi::Release();
+}
 
 int GenericInputDialog::exec() {
   orvik::utils::SendKey(VK_NUMPAD1, 0);
