@@ -17,7 +17,13 @@ namespace {
 
 constexpr int kThemeDelayMilliseconds = 100;
 
-// As a style sheet wants it: there a backslash is an escape.
+// Qt's own class can't be destroyed from outside; this one is, when the library is unloaded.
+class ProcessAccessible final : public QAccessibleWidget {
+ public:
+  using QAccessibleWidget::QAccessibleWidget;
+};
+
+// With slashes, because a backslash is an escape character in a style sheet.
 QString IconFolder() {
   return QString::fromStdString(FolderPath(FolderKind::Temporary)).replace(u'\\', u'/');
 }
@@ -41,12 +47,19 @@ AccessibleDialogBase::~AccessibleDialogBase() {
 }
 
 QAccessibleInterface* AccessibleDialogBase::AccessibleObject() {
-  static auto* const object = new QAccessibleWidget(this, QAccessible::Client, QString());
-  return object;
+  static ProcessAccessible object(this, QAccessible::Client, QString());
+  return &object;
 }
 
 void AccessibleDialogBase::OnThemeChanged() {
-  QTimer::singleShot(kThemeDelayMilliseconds, this, [this] { ReapplyStyle(); });
+  // A child, not QTimer::singleShot: that keeps code of this library when the dialog is closed before the timeout.
+  auto* const delay = new QTimer(this);
+  delay->setSingleShot(true);
+  connect(delay, &QTimer::timeout, this, [this, delay] {
+    delay->deleteLater();
+    ReapplyStyle();
+  });
+  delay->start(kThemeDelayMilliseconds);
 }
 
 void AccessibleDialogBase::ReapplyStyle() {

@@ -20,12 +20,12 @@ class AccessibleDialogBase : public QDialog {
   AccessibleDialogBase& operator=(const AccessibleDialogBase&) = delete;
   ~AccessibleDialogBase() override;
 
-  /// What assistive programs ask for: one object of the process, made for the first dialog that is asked and not
-  /// valid any more when that has gone.
+  /// The process's only accessibility object, created for the first dialog this is called on and owned by the
+  /// library: not to be registered or deleted. Its `isValid` is false once that dialog is destroyed.
   virtual QAccessibleInterface* AccessibleObject();
 
  protected Q_SLOTS:
-  /// Applies the style that the system wants, a moment later, because its colours change one after the other.
+  /// Reapplies the style after a short delay, because the system changes its colours one by one.
   void OnThemeChanged();
 
  private:
