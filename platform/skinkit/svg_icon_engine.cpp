@@ -5,12 +5,26 @@
 #include <QPixmap>
 #include <QtPlugin>
 #include <algorithm>
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
 
 namespace skinkit {
 
 namespace {
 
 constexpr qint64 kLargestIcon = 1048576;
+
+#ifdef Q_OS_WIN
+// Qt never forgets a plug-in, so this library must stay loaded when the last program or library that uses it is gone.
+void PinLibrary() {
+  static constexpr char kInThisLibrary = 0;
+  constexpr DWORD kFlags = GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS;
+  HMODULE library = nullptr;
+  GetModuleHandleExW(kFlags, reinterpret_cast<LPCWSTR>(&kInThisLibrary), &library);
+}
+Q_CONSTRUCTOR_FUNCTION(PinLibrary)
+#endif
 
 }  // namespace
 
