@@ -173,6 +173,38 @@ TEST_F(GenericInputDialogTest, WidthFollowsTheTitle) {
   EXPECT_EQ(widths(), std::pair(scaled(wide), scaled(wide - 40)));
 }
 
+// Whether all lines of the label's text are inside the label.
+void ExpectTextInside(const QLabel& label) {
+  const QRect inside = label.contentsRect();
+  const QRect room(0, 0, inside.width(), QWIDGETSIZE_MAX);
+  EXPECT_LE(label.fontMetrics().boundingRect(room, Qt::TextWordWrap, label.text()).height(), inside.height())
+      << label.text().toStdString();
+}
+
+// Run at several DPIs: CMakeLists.txt.
+TEST_F(GenericInputDialogTest, NoLineOfTheTextIsCut) {
+  const auto dpi = static_cast<std::uint32_t>(QGuiApplication::primaryScreen()->logicalDotsPerInch());
+  const auto show = [](const std::string& title, const std::string& text) {
+    const auto request = Question(1, 1);
+    request->title = title;
+    request->text = text;
+    const auto dialog = Show(*request);
+    for (const char* name : {"generic_input_header_label", "generic_input_instruction_label"})
+      ExpectTextInside(*dialog->findChild<QLabel*>(name));
+  };
+  for (const bool highContrast : {false, true}) {
+    Install({.highContrast = highContrast, .dpi = dpi});
+    for (const char* language : {"en", "de"}) {
+      QTranslator texts;
+      ASSERT_TRUE(texts.load(QStringLiteral(ORVIK_TRANSLATIONS "/orvik_%1.qm").arg(language)));
+      show(texts.translate("RAID", "CHECK_CONSISTENCY_ALREADY_IN_PROGRESS").toStdString(),
+           texts.translate("RAID", "CANCEL_AND_START_NEW_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE_QUESTION").toStdString());
+    }
+    std::string text = "Word";
+    for (int words = 1; words < 40; ++words) show("Title", text += words % 3 == 0 ? " verylongword" : " and");
+  }
+}
+
 TEST_F(GenericInputDialogTest, TitleWiderThanTheScreenLeavesTheButtonsOnIt) {
   const auto request = Question(0, 1);
   request->title = std::string(100000, 'M');

@@ -2,6 +2,7 @@
 
 #include <QMetaObject>
 #include <QSizePolicy>
+#include <algorithm>
 
 namespace {
 
@@ -11,6 +12,14 @@ Object* Make(const QString& name, Parent*... parent) {
   object->setObjectName(name);
   return object;
 }
+
+/// A label of fixed width whose height is that of its text at this width. Layouts ask for the height at the width of
+/// their cell, where the text may need fewer lines.
+class TextLabel final : public QLabel {
+ public:
+  using QLabel::QLabel;
+  int heightForWidth(int width) const override { return QLabel::heightForWidth(std::min(width, maximumWidth())); }
+};
 
 }  // namespace
 
@@ -61,7 +70,7 @@ void GenericInputDialogWidgets::SetUpHeader() {
 
 void GenericInputDialogWidgets::SetUpInstruction() {
   instructionLayout = Make<QVBoxLayout>(QStringLiteral("verticalLayout"), instruction);
-  text = Make<QLabel>(QStringLiteral("generic_input_instruction_label"), instruction);
+  text = Make<TextLabel>(QStringLiteral("generic_input_instruction_label"), instruction);
   text->setScaledContents(true);
   text->setAlignment(Qt::AlignJustify | Qt::AlignVCenter);
   text->setWordWrap(true);
