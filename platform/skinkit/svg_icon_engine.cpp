@@ -13,7 +13,7 @@ namespace skinkit {
 
 namespace {
 
-constexpr qint64 kLargestIcon = 1048576;
+constexpr qint64 kLargestIcon = 1048576;  // bytes
 
 #ifdef Q_OS_WIN
 // Qt never forgets a plug-in, so this library must stay loaded when the last program or library that uses it is gone.
@@ -31,7 +31,9 @@ Q_CONSTRUCTOR_FUNCTION(PinLibrary)
 void SvgIconEngine::addFile(const QString& fileName, const QSize& /*size*/, QIcon::Mode /*mode*/,
                             QIcon::State /*state*/) {
   QFile file(fileName);
-  if (file.open(QIODevice::ReadOnly)) drawing_ = ReadSvg(file.read(kLargestIcon));
+  if (!file.open(QIODevice::ReadOnly)) return;
+  const QByteArray svg = file.read(kLargestIcon + 1);
+  if (svg.size() <= kLargestIcon) drawing_ = ReadSvg(svg);
 }
 
 // In the middle of the rectangle, as large as it fits.

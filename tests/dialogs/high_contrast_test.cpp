@@ -95,6 +95,28 @@ TEST(IconRecoloringTest, FirstFillColorIsReplacedEverywhere) {
   }
 }
 
+TEST(IconRecoloringTest, IconsThatCannotBeCopiedWholeAreNotCopied) {
+  const QTemporaryDir folder;
+  const QByteArray svg = "<a fill=\"#123\"/>";
+  struct Row {
+    qsizetype size;
+    QByteArray start;
+    bool copied;
+  };
+  for (const Row& row : {Row{utils::kLargestIcon, svg, true}, Row{utils::kLargestIcon + 1, svg, false},
+                         Row{utils::kLargestIcon * 2, svg, false}, Row{100, "<a/>", false}}) {
+    QFile icon(folder.filePath("icon.svg"));
+    ASSERT_TRUE(icon.open(QIODevice::WriteOnly));
+    icon.write(row.start.leftJustified(row.size));
+    icon.close();
+    QObject owner;
+    const auto value = utils::RecoloredIcon("icon", icon.fileName(), "#fff", folder.filePath("copies"), owner);
+    EXPECT_EQ(value.has_value(), row.copied) << row.size;
+    const QFileInfoList copies = QDir(folder.filePath("copies")).entryInfoList(QDir::Files);
+    EXPECT_EQ(copies.value(0).size(), row.copied ? row.size : 0) << row.size;
+  }
+}
+
 class HighContrastTest : public DesktopMachine {
  protected:
   static QString IconPath(const AccessibleDialogBase& dialog) {

@@ -7,13 +7,6 @@
 
 namespace orvik::utils {
 
-namespace {
-
-// An icon is a few kilobytes; what a style sheet names need not be one.
-constexpr qint64 kLargestIcon = 1048576;
-
-}  // namespace
-
 std::optional<QString> RecoloredSvg(QString svg, const QString& color) {
   const QString attribute = QStringLiteral("fill=\"");
   const qsizetype found = svg.indexOf(attribute);
@@ -40,7 +33,9 @@ std::optional<QString> RecoloredIcon(const QString& value, const QString& path, 
                                      const QString& folder, QObject& owner) {
   QFile icon(path);
   if (!icon.open(QIODevice::ReadOnly)) return std::nullopt;
-  const auto svg = RecoloredSvg(QString::fromUtf8(icon.read(kLargestIcon)), color);
+  const QByteArray original = icon.read(kLargestIcon + 1);
+  if (original.size() > kLargestIcon) return std::nullopt;
+  const auto svg = RecoloredSvg(QString::fromUtf8(original), color);
   if (!svg || folder.isEmpty() || !QDir().mkpath(folder)) return std::nullopt;
 
   auto copy =
