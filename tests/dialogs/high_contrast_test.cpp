@@ -10,7 +10,7 @@
 #include "utils/dialogs/accessible_dialog_base.h"
 #include "utils/dialogs/high_contrast_style.h"
 #include "utils/dialogs/icon_recoloring.h"
-#include "utils/dialogs/temporary_folder.h"
+#include "utils/dialogs/windows_desktop.h"
 
 namespace orvik::testing {
 namespace {

@@ -4,12 +4,24 @@
 #include <QCoreApplication>
 #include <QTimer>
 
+#include <windows.h>
+
 #include <skinkit.h>
 
 #include "utils/dialogs/high_contrast_style.h"
 #include "utils/dialogs/icon_recoloring.h"
-#include "utils/dialogs/system_colors.h"
-#include "utils/dialogs/temporary_folder.h"
+#include "utils/dialogs/windows_desktop.h"
+
+namespace orvik::utils::event_filters {
+
+bool HighContrastEventFilter::nativeEventFilter(const QByteArray& eventType, void* message, qintptr* /*result*/) {
+  if (eventType != "windows_generic_MSG" || message == nullptr) return false;
+  if (static_cast<const MSG*>(message)->message != WM_THEMECHANGED) return false;
+  Q_EMIT ThemeChanged();
+  return true;
+}
+
+}  // namespace orvik::utils::event_filters
 
 namespace orvik::utils::accessibility {
 
@@ -41,7 +53,7 @@ AccessibleDialogBase::AccessibleDialogBase(QWidget* parent)
   if (IsHighContrastOn()) ApplyHighContrast();
 }
 
-// Deleted, the filter is no longer one of the application's.
+// Deleting the filter removes it from the application.
 AccessibleDialogBase::~AccessibleDialogBase() {
   delete filter_;
 }

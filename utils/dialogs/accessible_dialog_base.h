@@ -1,16 +1,35 @@
 #pragma once
 
+#include <QAbstractNativeEventFilter>
 #include <QAccessibleInterface>
+#include <QByteArray>
 #include <QColor>
 #include <QDialog>
 #include <QList>
+#include <QObject>
 #include <QString>
 
-#include "utils/dialogs/high_contrast_event_filter.h"
+namespace orvik::utils::event_filters {
+
+/// Watches the system's messages for theme changes while it is installed on the application. GUI thread only.
+class HighContrastEventFilter : public QObject, public QAbstractNativeEventFilter {
+  Q_OBJECT
+
+ public:
+  using QObject::QObject;
+
+  /// `message` is a MSG when `eventType` says so. True, which consumes the message, for a theme change.
+  bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+
+ Q_SIGNALS:
+  void ThemeChanged();
+};
+
+}  // namespace orvik::utils::event_filters
 
 namespace orvik::utils::accessibility {
 
-/// A dialog in the host's style that follows the system into high contrast and back. GUI thread only.
+/// A dialog in the host's style that follows the system into and out of high contrast. GUI thread only.
 class AccessibleDialogBase : public QDialog {
   Q_OBJECT
 

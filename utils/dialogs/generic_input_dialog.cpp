@@ -5,14 +5,11 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
-#include <QSpacerItem>
 #include <algorithm>
 #include <utility>
 
-#include "utils/dialogs/answer_buttons.h"
 #include "utils/dialogs/dpi.h"
-#include "utils/dialogs/foreground.h"
-#include "utils/dialogs/narrator.h"
+#include "utils/dialogs/windows_desktop.h"
 
 namespace {
 
@@ -22,13 +19,14 @@ constexpr int kRoomBesideTitle = 80;
 constexpr int kRoomBesideText = 40;
 constexpr int kFieldTextWidth = 275;
 
-QString TranslatedByHost(const char* key) {
-  return QCoreApplication::translate("QT_SERVER_APP", key);
-}
-
 int ScaledWidth(int width) {
   const Dpi* const dpi = Dpi::Instance();
   return dpi == nullptr ? width : dpi->Scaled(QSize(width, 0)).width();
+}
+
+// The answer that a button id stands for: OK, Cancel, Yes or No in the order of InputRequest::answer.
+std::uint32_t AnswerOf(int id) {
+  return id >= 0 && id <= 3 ? static_cast<std::uint32_t>(id) + 1 : 0;
 }
 
 QString IconName(std::uint32_t kind) {
@@ -59,7 +57,7 @@ GenericInputDialog::GenericInputDialog(InputRequest* request, std::string transl
   SetWidth();
   ShowIconAndTitle();
   AddFields();
-  AddButtons();
+  ui_->AddAnswerButtons(request_->buttons, answerButtons_);
   const bool screenReader = IsNarratorRunning();
   if (screenReader) {
     ui_->title->setFocusPolicy(Qt::StrongFocus);
@@ -94,12 +92,12 @@ void GenericInputDialog::Close(std::uint32_t answer) {
   close();
 }
 
-// An empty key would be answered with a translation file's own header.
+// The translation of an empty key would be the translation file's header.
 QString GenericInputDialog::Translated(const std::string& key) const {
   return key.empty() ? QString() : QCoreApplication::translate(translationContext_.c_str(), key.c_str());
 }
 
-// The lower levels of a question join their keys with blanks, and each key has a translation of its own.
+// Callers join several keys with blanks; each is translated separately.
 void GenericInputDialog::ShowText() {
   QStringList words;
   for (const QString& word : QString::fromStdString(request_->text).split(u' '))
@@ -112,7 +110,7 @@ void GenericInputDialog::SetWidth() {
   const QFontMetrics metrics(QApplication::font());
   const int wanted = metrics.horizontalAdvance(QString::fromStdString(request_->title)) + kRoomBesideTitle;
   const int width = std::max(wanted, kLeastWidth);
-  // A title that is wider than the screen would take the buttons beyond it.
+  // A title wider than the screen would push the buttons off it.
   const int room = std::max(screen()->size().width(), kLeastWidth);
   setFixedWidth(std::min(ScaledWidth(width), room));
   ui_->text->setFixedWidth(std::min(ScaledWidth(width - kRoomBesideText), room - kRoomBesideText));
@@ -143,32 +141,12 @@ void GenericInputDialog::AddLabel(const InputFieldLabel& field) {
   ui_->fieldsLayout->addWidget(label);
 }
 
-// At the right end of the footer.
-void GenericInputDialog::AddButtons() {
-  ui_->buttonsLayout->addItem(new QSpacerItem(40, 20, QSizePolicy::Expanding, QSizePolicy::Expanding));
-  bool first = true;
-  for (const AnswerButton& each : AnswerButtonsOf(request_->buttons)) {
-    if (!first) ui_->buttonsLayout->addItem(new QSpacerItem(10, 20, QSizePolicy::Fixed, QSizePolicy::Fixed));
-    first = false;
-    auto* button = new QPushButton(TranslatedByHost(each.labelKey), ui_->footer);
-    button->setObjectName(QString::fromLatin1(each.objectName));
-    button->setCursor(Qt::PointingHandCursor);
-    button->setFocusPolicy(Qt::StrongFocus);
-    // Otherwise Enter would press it.
-    button->setAutoDefault(false);
-    answerButtons_.addButton(button, each.id);
-    ui_->buttonsLayout->addWidget(button);
-  }
-}
-
 void GenericInputDialog::SetInitialFocus(bool screenReader) {
   if (screenReader) {
     ui_->title->setFocus();
     return;
   }
-  const auto buttons = ui_->footer->findChildren<QWidget*>();
-  const auto found = std::ranges::find_if(buttons, [](const QWidget* each) { return AffirmsByName(*each); });
-  if (found != buttons.end()) (*found)->setFocus(Qt::OtherFocusReason);
+  if (QWidget* button = ui_->AffirmativeButton()) button->setFocus(Qt::OtherFocusReason);
 }
 
 void GenericInputDialog::CollectFocusList() {

@@ -12,7 +12,7 @@
 #include "utils/dialogs/accessible_dialog_base.h"
 #include "utils/dialogs/generic_input_dialog_widgets.h"
 
-/// A modal window that asks one question and writes the answer into its request. GUI thread only.
+/// Modal window that asks one question and writes the answer into the request. GUI thread only.
 class GenericInputDialog : public orvik::utils::accessibility::AccessibleDialogBase {
   Q_OBJECT
 
@@ -36,7 +36,7 @@ class GenericInputDialog : public orvik::utils::accessibility::AccessibleDialogB
  public Q_SLOTS:
   /// Closes the dialog without an answer.
   void OnClose();
-  /// Takes the answer of the button with this id and closes the dialog.
+  /// Stores the answer of the button with this id and closes the dialog.
   void OnAnswer(int id);
 
  private:
@@ -46,7 +46,6 @@ class GenericInputDialog : public orvik::utils::accessibility::AccessibleDialogB
   void ShowIconAndTitle();
   void AddFields();
   void AddLabel(const InputFieldLabel& field);
-  void AddButtons();
   void SetInitialFocus(bool screenReader);
   void CollectFocusList();
   void MoveFocus(int step);

@@ -1,8 +1,12 @@
 #include "utils/dialogs/generic_input_dialog_widgets.h"
 
+#include <QCoreApplication>
 #include <QMetaObject>
 #include <QSizePolicy>
+#include <QSpacerItem>
 #include <algorithm>
+#include <array>
+#include <span>
 
 namespace {
 
@@ -11,6 +15,26 @@ Object* Make(const QString& name, Parent*... parent) {
   auto* object = new Object(parent...);
   object->setObjectName(name);
   return object;
+}
+
+struct ButtonTemplate {
+  int id;
+  const char* objectName;
+  const char* labelKey;
+};
+
+// From left to right.
+std::span<const ButtonTemplate> TemplatesOf(std::uint32_t buttons) {
+  static constexpr std::array kOkCancel{ButtonTemplate{0, "generic_input_button_ok", "OK"},
+                                        ButtonTemplate{1, "generic_input_button_cancel", "CANCEL"}};
+  static constexpr std::array kYesNo{ButtonTemplate{2, "generic_input_button_yes", "YES"},
+                                     ButtonTemplate{3, "generic_input_button_no", "NO"}};
+  switch (buttons) {
+    case 0: return std::span(kOkCancel).first(1);
+    case 1: return kOkCancel;
+    case 2: return kYesNo;
+    default: return {};
+  }
 }
 
 /// A label of fixed width whose height is that of its text at this width. Layouts ask for the height at the width of
@@ -22,6 +46,10 @@ class TextLabel final : public QLabel {
 };
 
 }  // namespace
+
+QString TranslatedByHost(const char* key) {
+  return QCoreApplication::translate("QT_SERVER_APP", key);
+}
 
 void GenericInputDialogWidgets::SetUp(QDialog& dialog) {
   dialog.setObjectName(QStringLiteral("generic_input_dialog_base"));
@@ -55,11 +83,11 @@ void GenericInputDialogWidgets::SetUpHeader() {
   icon = Make<QLabel>(QStringLiteral("generic_input_information_icon"), header);
   icon->setFocusPolicy(Qt::NoFocus);
   title = Make<QLabel>(QStringLiteral("generic_input_header_label"), header);
-  // A style may draw it larger than in the font that the dialog is made wide for.
+  // The dialog's width is computed in the application's font; a style sheet may set a larger one.
   title->setWordWrap(true);
   closeButton = Make<QPushButton>(QStringLiteral("generic_input_header_close"), header);
   closeButton->setFlat(true);
-  // Otherwise Enter would press it.
+  // Enter must not press it.
   closeButton->setAutoDefault(false);
   closeButton->setFocusPolicy(Qt::StrongFocus);
   closeButton->setCursor(Qt::PointingHandCursor);
@@ -81,4 +109,29 @@ void GenericInputDialogWidgets::SetUpInstruction() {
   instructionLayout->addWidget(fields);
   fieldsLayout = Make<QVBoxLayout>(QStringLiteral("verticalLayout_2"), fields);
   fieldsLayout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void GenericInputDialogWidgets::AddAnswerButtons(std::uint32_t buttons, QButtonGroup& group) const {
+  buttonsLayout->addItem(new QSpacerItem(40, 20, QSizePolicy::Expanding, QSizePolicy::Expanding));
+  bool first = true;
+  for (const ButtonTemplate& each : TemplatesOf(buttons)) {
+    if (!first) buttonsLayout->addItem(new QSpacerItem(10, 20, QSizePolicy::Fixed, QSizePolicy::Fixed));
+    first = false;
+    auto* button = new QPushButton(TranslatedByHost(each.labelKey), footer);
+    button->setObjectName(QString::fromLatin1(each.objectName));
+    button->setCursor(Qt::PointingHandCursor);
+    button->setFocusPolicy(Qt::StrongFocus);
+    // Enter must not press it.
+    button->setAutoDefault(false);
+    group.addButton(button, each.id);
+    buttonsLayout->addWidget(button);
+  }
+}
+
+QWidget* GenericInputDialogWidgets::AffirmativeButton() const {
+  const auto children = footer->findChildren<QWidget*>();
+  const auto found = std::ranges::find_if(children, [](const QWidget* each) {
+    return each->objectName() == u"generic_input_button_ok" || each->objectName() == u"generic_input_button_yes";
+  });
+  return found == children.end() ? nullptr : *found;
 }

@@ -1,13 +1,18 @@
 #pragma once
 
 #include <QBoxLayout>
+#include <QButtonGroup>
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QString>
 #include <QWidget>
+#include <cstdint>
 
-/// The widgets of a `GenericInputDialog`, owned by the widget tree. Their object names are what style sheets know
-/// them by.
+/// A text of the host's own translation context.
+QString TranslatedByHost(const char* key);
+
+/// The widgets of a `GenericInputDialog`, owned by the widget tree. Style sheets select them by their object names.
 struct GenericInputDialogWidgets {
   QVBoxLayout* dialogLayout{};
   QWidget* border{};
@@ -25,8 +30,13 @@ struct GenericInputDialogWidgets {
   QWidget* footer{};
   QHBoxLayout* buttonsLayout{};
 
-  /// Makes them all in `dialog`.
+  /// Creates all but the answer buttons in `dialog`.
   void SetUp(QDialog& dialog);
+  /// Creates the answer buttons of a request's button set at the right end of the footer, and adds them to `group`
+  /// with their ids; none for an unknown set.
+  void AddAnswerButtons(std::uint32_t buttons, QButtonGroup& group) const;
+  /// The OK or Yes button; null when there is none.
+  QWidget* AffirmativeButton() const;
 
  private:
   void SetUpHeader();

@@ -6,8 +6,8 @@
 #include <atomic>
 #include <utility>
 
-#include "utils/dialogs/foreground.h"
 #include "utils/dialogs/generic_input_dialog.h"
+#include "utils/dialogs/windows_desktop.h"
 
 namespace orvik::utils {
 
@@ -16,7 +16,7 @@ namespace {
 constexpr int kAbortPollMilliseconds = 1000;
 constexpr std::uint32_t kAnswerOk = 1;
 
-// Shown once before it runs, the dialog has a native window that can be brought forward.
+// Showing the dialog once creates its native window, which can then be brought forward.
 void Raise(GenericInputDialog& dialog) {
   dialog.setWindowFlag(Qt::WindowStaysOnTopHint, true);
   dialog.open();
@@ -30,8 +30,8 @@ GuiDialogInputInteraction::GuiDialogInputInteraction(InputRequest* question, std
                                                      bool always)
     : GuiInputInteraction(skip, always), translationContext(std::exchange(context, {})), request(question) {}
 
-// True when the request has its answer: a note that is only to be confirmed, or a question with a harmless default.
-bool GuiDialogInputInteraction::AnswerAtOnce() {
+// Answers a note that only needs confirming, or a question with a harmless default. True when it did.
+bool GuiDialogInputInteraction::AnswerWithoutDialog() {
   const auto is = [this](std::uint32_t buttons, std::uint32_t kind) {
     return request->buttons == buttons && request->kind == kind;
   };
@@ -41,8 +41,8 @@ bool GuiDialogInputInteraction::AnswerAtOnce() {
 }
 
 void GuiDialogInputInteraction::DoInteract() {
-  if ((!alwaysAsk || skipInteraction) && AnswerAtOnce()) return;
-  // Qt's blocking call orders the two threads by means that a thread sanitizer does not see; this one it does.
+  if ((!alwaysAsk || skipInteraction) && AnswerWithoutDialog()) return;
+  // Orders the two threads for the thread sanitizer too, which does not see the order inside Qt's blocking call.
   std::atomic<bool> answered = false;
   QMetaObject::invokeMethod(
       QCoreApplication::instance(),

@@ -10,6 +10,15 @@ inline constexpr UINT SPI_GETSCREENREADER = 0x0046;
 inline constexpr DWORD HCF_HIGHCONTRASTON = 0x00000001;
 inline constexpr DWORD HCF_AVAILABLE = 0x00000002;
 
+inline constexpr int COLOR_BACKGROUND = 1;
+inline constexpr int COLOR_WINDOWTEXT = 8;
+inline constexpr int COLOR_HIGHLIGHT = 13;
+inline constexpr int COLOR_HIGHLIGHTTEXT = 14;
+inline constexpr int COLOR_BTNFACE = 15;
+inline constexpr int COLOR_GRAYTEXT = 17;
+inline constexpr int COLOR_BTNTEXT = 18;
+inline constexpr int COLOR_INFOTEXT = 23;
+
 inline constexpr DWORD INPUT_KEYBOARD = 1;
 inline constexpr DWORD KEYEVENTF_KEYUP = 0x0002;
 inline constexpr WORD VK_LEFT = 0x25;
