@@ -3,28 +3,13 @@
 #include <QFile>
 #include <QPainter>
 #include <QPixmap>
-#include <QtPlugin>
 #include <algorithm>
-#ifdef Q_OS_WIN
-#include <windows.h>
-#endif
 
 namespace skinkit {
 
 namespace {
 
 constexpr qint64 kLargestIcon = 1048576;  // bytes
-
-#ifdef Q_OS_WIN
-// Qt never forgets a plug-in, so this library must stay loaded when the last program or library that uses it is gone.
-void PinLibrary() {
-  static constexpr char kInThisLibrary = 0;
-  constexpr DWORD kFlags = GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS;
-  HMODULE library = nullptr;
-  GetModuleHandleExW(kFlags, reinterpret_cast<LPCWSTR>(&kInThisLibrary), &library);
-}
-Q_CONSTRUCTOR_FUNCTION(PinLibrary)
-#endif
 
 }  // namespace
 
@@ -36,7 +21,7 @@ void SvgIconEngine::addFile(const QString& fileName, const QSize& /*size*/, QIco
   if (svg.size() <= kLargestIcon) drawing_ = ReadSvg(svg);
 }
 
-// In the middle of the rectangle, as large as it fits.
+// Centred in the rectangle and scaled to fit.
 void SvgIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/) {
   const QRectF box = drawing_.viewBox;
   const double scale = std::min(rect.width() / box.width(), rect.height() / box.height());
@@ -69,5 +54,3 @@ QIconEngine* SvgIconPlugin::create(const QString& fileName) {
 }
 
 }  // namespace skinkit
-
-Q_IMPORT_PLUGIN(SvgIconPlugin)

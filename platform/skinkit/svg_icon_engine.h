@@ -1,6 +1,6 @@
 #pragma once
 
-// SVG icons at any size. Qt draws them with its SVG module where that is installed; this is for where it is not.
+// Draws SVG icons at any size where Qt's SVG module is not installed.
 
 #include <QIconEngine>
 #include <QIconEnginePlugin>
@@ -21,7 +21,7 @@ class SvgIconEngine final : public QIconEngine {
   Drawing drawing_;
 };
 
-/// Part of the library itself. A plug-in of the same key that is installed comes before it.
+/// Linked into this library. Qt prefers an installed plug-in of the same key.
 class SvgIconPlugin final : public QIconEnginePlugin {
   Q_OBJECT
   Q_PLUGIN_METADATA(IID QIconEngineFactoryInterface_iid FILE "svg_icon_engine.json")

@@ -14,7 +14,7 @@ class PathReader {
  public:
   explicit PathReader(QStringView data) : rest_(data) {}
 
-  // Nothing when the data has something else in it.
+  // Nothing when the data contains anything else.
   std::optional<QPainterPath> Path() {
     QChar command;
     while (SkipSeparators()) {

@@ -19,8 +19,8 @@ struct Drawing {
   std::vector<Shape> shapes;
 };
 
-/// As much of SVG as icons need: `path` elements with a `fill` and absolute M, L, H, V, C and Z commands, filled by
-/// the even-odd rule. Other elements, and paths with other commands, are left out.
+/// Reads as much of SVG as icons need: `path` elements with a `fill` and absolute M, L, H, V, C and Z commands,
+/// filled by the even-odd rule. Skips other elements and paths with other commands.
 Drawing ReadSvg(const QByteArray& svg);
 
 }  // namespace skinkit

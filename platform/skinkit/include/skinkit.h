@@ -1,6 +1,6 @@
 #pragma once
 
-// The host's style library: how its windows look.
+// The host's style library: the look of its windows.
 
 #include <QString>
 
