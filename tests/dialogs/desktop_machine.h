@@ -18,18 +18,18 @@ class DesktopMachine : public ::testing::Test {
  protected:
   DesktopMachine() { Install({}); }
   ~DesktopMachine() override {
-    EXPECT_EQ(machine->Ledger().OutstandingTotal(), 0U);
-    EXPECT_EQ(machine->Ledger().InvalidReleases(), 0U);
+    EXPECT_EQ(machine_->Ledger().OutstandingTotal(), 0U);
+    EXPECT_EQ(machine_->Ledger().InvalidReleases(), 0U);
   }
 
   void Install(simulation::DesktopDescription desktop) {
-    desktop.programData = folder.path().toStdString();
-    machine = std::make_shared<simulation::Machine>(simulation::MachineDescription{.desktop = std::move(desktop)});
-    simulation::InstallMachine(machine);
+    desktop.programData = folder_.path().toStdString();
+    machine_ = std::make_shared<simulation::Machine>(simulation::MachineDescription{.desktop = std::move(desktop)});
+    simulation::InstallMachine(machine_);
   }
 
-  QTemporaryDir folder;
-  std::shared_ptr<simulation::Machine> machine;
+  QTemporaryDir folder_;
+  std::shared_ptr<simulation::Machine> machine_;
 };
 
 /// `kind` and `buttons` as a request has them.

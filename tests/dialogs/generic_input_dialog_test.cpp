@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTranslator>
+#include <climits>
 
 #include "tests/dialogs/desktop_machine.h"
 #include "tests/dialogs/gui_events.h"
@@ -61,8 +62,10 @@ TEST_F(GenericInputDialogTest, ButtonsGiveTheirAnswers) {
       const auto dialog = Show(*request);
       Click(*dialog, row.names[i]);
       EXPECT_EQ(request->answer, row.answers[i]);
-      Show(*request)->OnAnswer(4);
-      EXPECT_EQ(request->answer, 0U);
+      for (const int unknown : {-2, 4}) {
+        Show(*request)->OnAnswer(unknown);
+        EXPECT_EQ(request->answer, 0U);
+      }
     }
     request->answer = 99;
     Click(*Show(*request), "generic_input_header_close");
@@ -79,7 +82,7 @@ TEST_F(GenericInputDialogTest, IconFollowsTheKind) {
     const auto dialog = Show(*request);
     auto* icon = dialog->findChild<QLabel*>("generic_input_" + name + "_icon");
     ASSERT_NE(icon, nullptr) << kind;
-    // The style library has a picture for it: something is drawn in front of the header's colour.
+    // The style library has a picture for it: something is drawn on the header's colour.
     const QImage image = icon->grab().toImage();
     const QColor corner = image.pixelColor(1, 1);
     bool drawn = false;
@@ -104,9 +107,9 @@ TEST_F(GenericInputDialogTest, KeysMoveTheFocusAndOnlyEscapeAnswers) {
                                                 {Qt::Key_Up, "generic_input_header_close"}}) {
     PressKey(QApplication::focusWidget(), key);
     EXPECT_EQ(Focus(), focus);
-    // What reaches the dialog itself moves the focus as well.
     EXPECT_TRUE(dialog->isVisible());
   }
+  // Keys that reach the dialog itself move the focus as well.
   PressKey(dialog.get(), Qt::Key_Down);
   EXPECT_EQ(Focus(), "generic_input_button_ok");
   QApplication::focusWidget()->clearFocus();
@@ -152,6 +155,9 @@ TEST_F(GenericInputDialogTest, TextsAreTranslatedWordByWord) {
   ASSERT_NE(label, nullptr);
   EXPECT_TRUE(label->isVisible());
   EXPECT_EQ(label->text() + label->toolTip(), "<RAID FIELD><RAID TIP>");
+  const QRect room(0, 0, 275, QWIDGETSIZE_MAX);
+  EXPECT_EQ(label->maximumHeight(),
+            label->fontMetrics().boundingRect(room, Qt::TextWordWrap, label->text()).height());
 
   request->fields.clear();
   EXPECT_FALSE(Child(*Show(*request), "generic_input_widget_fields")->isVisible());
@@ -220,22 +226,34 @@ TEST_F(GenericInputDialogTest, HeaderDragsTheWindow) {
   const auto request = Question(0, 1);
   const auto dialog = Show(*request);
   QWidget* header = Child(*dialog, "generic_input_widget_header");
-  for (const bool overHeader : {true, false}) {
+  struct Row {
+    bool overHeader;
+    bool overClose;
+    bool drags;
+  };
+  for (const auto& [overHeader, overClose, drags] :
+       {Row{true, false, true}, Row{true, true, false}, Row{false, false, false}}) {
     header->setAttribute(Qt::WA_UnderMouse, overHeader);
+    Child(*dialog, "generic_input_header_close")->setAttribute(Qt::WA_UnderMouse, overClose);
     QWidget* label = Child(*dialog, overHeader ? "generic_input_header_label" : "generic_input_instruction_label");
     const QPoint start = dialog->pos();
     MouseEvent(label, QEvent::MouseButtonPress);
-    EXPECT_EQ(dialog->cursor().shape() == Qt::ClosedHandCursor, overHeader);
+    EXPECT_EQ(dialog->cursor().shape() == Qt::ClosedHandCursor, drags);
     MouseEvent(label, QEvent::MouseMove, {30, 20});
-    EXPECT_EQ(dialog->pos() - start, overHeader ? QPoint(30, 20) : QPoint());
+    EXPECT_EQ(dialog->pos() - start, drags ? QPoint(30, 20) : QPoint());
+    // Released elsewhere, the button still drags.
+    header->setAttribute(Qt::WA_UnderMouse, false);
     MouseEvent(label, QEvent::MouseButtonRelease);
-    MouseEvent(label, QEvent::MouseMove, {30, 20});
-    EXPECT_EQ(dialog->pos() - start, overHeader ? QPoint(30, 20) : QPoint());
+    EXPECT_EQ(dialog->cursor().shape() == Qt::ClosedHandCursor, drags);
+    header->setAttribute(Qt::WA_UnderMouse, true);
+    MouseEvent(label, QEvent::MouseButtonRelease);
+    MouseEvent(label, QEvent::MouseMove, {60, 40});
+    EXPECT_EQ(dialog->pos() - start, drags ? QPoint(30, 20) : QPoint());
     EXPECT_EQ(dialog->cursor().shape(), Qt::ArrowCursor);
   }
 }
 
-TEST(DpiTest, DpiFallsOnSteps) {
+TEST(DpiTest, DpiIsRoundedDownToAStep) {
   for (const auto& [dpi, step] : std::vector<std::pair<int, int>>{{1, 96},
                                                                   {100, 96},
                                                                   {119, 96},
@@ -243,6 +261,7 @@ TEST(DpiTest, DpiFallsOnSteps) {
                                                                   {143, 120},
                                                                   {144, 144},
                                                                   {150, 144},
+                                                                  {167, 144},
                                                                   {168, 168},
                                                                   {191, 168},
                                                                   {192, 192},
@@ -264,18 +283,26 @@ TEST(DpiTest, SizesGrowAsFarAsTheScreenAllows) {
                                                             {144, {640, 480}, {331, 100}}}) {
     EXPECT_EQ(Dpi::Scaled({331, 100}, dpi, screen), scaled) << dpi;
   }
+  EXPECT_EQ(Dpi::Scaled({INT_MAX, 0}, 192, {1920, 1080}), QSize(QWIDGETSIZE_MAX, 0));
 }
 
-TEST_F(GenericInputDialogTest, MonitorTellsItsDpiOrQtDoes) {
+TEST_F(GenericInputDialogTest, DpiIsTheMonitorsOrElseQts) {
   Install({.dpi = 150});
   EXPECT_EQ(Dpi::Detected(), QSize(150, 150));
-  EXPECT_EQ(machine->Desktop().DpiAwareness(), std::vector<std::uint32_t>{2});
+  EXPECT_EQ(machine_->Desktop().DpiAwareness(), std::vector<std::uint32_t>{2});
   const int logical = static_cast<int>(QGuiApplication::primaryScreen()->logicalDotsPerInch());
-  machine->Faults().FailEvery("GetDpiForMonitor");
+  machine_->Faults().FailEvery("GetDpiForMonitor");
   EXPECT_EQ(Dpi::Detected(), QSize(logical, logical));
   Install({.dpi = 150, .dpiLibrary = false});
   EXPECT_EQ(Dpi::Detected(), QSize(logical, logical));
   EXPECT_EQ(Dpi::Instance() == nullptr, QApplication::topLevelWidgets().isEmpty());
+  Install({.dpi = 150});
+  const QWidget mainWindow;
+  const Dpi* dpi = Dpi::Instance();
+  EXPECT_EQ(dpi->Scaled({331, 100}), Dpi::Scaled({331, 100}, dpi->logicalDpiX(), dpi->screen()->size()));
+  for (const int other : {dpi->logicalDpiY(), dpi->physicalDpiX(), dpi->physicalDpiY()})
+    EXPECT_EQ(other, dpi->logicalDpiX());
+  EXPECT_EQ(dpi->depth(), mainWindow.depth());
 }
 
 }  // namespace

@@ -40,7 +40,8 @@ TEST(HighContrastStyleTest, EveryKindOfSelectorHasItsRule) {
       {"QWidget#a { color: red; background-color: blue; }", "QWidget#a{background-color:back;color:red;}"},
       {"QWidget#border_widget{}",
        "QWidget#border_widget{background-color:back;border:1px solid text;border-radius:4px;}"},
-      {"QWidget { color: red }", "QWidget{color:red;}"},
+      {"QWidget { color: red } A QWidget#a{} A QLabel#a{} A QPushButton{} A QSpinBox#a{}",
+       "A QLabel#a{}A QPushButton{}A QSpinBox#a{}A QWidget#a{}QWidget{color:red;}"},
       {"QLabel#a{color:red} QLabel#a:disabled{} QLabel#a:selected{} QLabel#a:active{} QLabel#a:hover{}",
        "QLabel#a{color:text;}QLabel#a:active{color:info;}QLabel#a:disabled{color:gray;}"
        "QLabel#a:hover{color:text;}QLabel#a:selected{color:hightext;}"},
@@ -48,6 +49,8 @@ TEST(HighContrastStyleTest, EveryKindOfSelectorHasItsRule) {
        "QLabel#a{color:text;}"
        "QLabel#a:focus{border:2px solid;border-color:high;color:text;outline-style:none;}"
        "QLabel#a:focus:focus{border:2px solid;border-color:high;border-radius:8px;outline-style:none;}"},
+      // A state without the label's own rule is a label of its own.
+      {"QLabel#a:selected{}", "QLabel#a:selected{color:text;}"},
       {"QPushButton#a{border:9px} QPushButton#a:hover{color:red;background-color:red;border:9px}",
        "QPushButton#a{background-color:face;border:1px solid button;color:button;}"
        "QPushButton#a:hover{background-color:high;border:none;color:face;}"},
@@ -68,12 +71,14 @@ TEST(HighContrastStyleTest, EveryKindOfSelectorHasItsRule) {
       {"a{image:url(\":/i.svg\");icon:url(\"j\") x \"k\"} "
        "b{image:url(\":/missing.svg\");background-image:url(\"c\")}",
        "a{icon:j!;image::/i.svg!;}b{background-image:url(\"c\");image:url(\":/missing.svg\");}"},
-      // Not what a style sheet should be.
+      {"a{b:1;c:2} a{b:3}", "a{b:3;c:2;}"},
+      // Malformed, or no icon's path.
       {"", ""},
       {"}}{;:}{", ""},
       {"a{b:c", "a{b:c;}"},
       {"a{b:c{d:e}f}g{:h;i;j:}", "a{b:c;}g{j:;}"},
       {"a{image:none;icon:\"}", "a{icon:\";image:none;}"},
+      {"a{image:url(\"\");icon:\"j\"}", "a{icon:j!;image:url(\"\");}"},
   };
   for (const Row& row : rows) EXPECT_EQ(Rewritten(row.rules).toStdString(), row.rewritten) << row.rules;
 }
@@ -82,6 +87,7 @@ TEST(IconRecoloringTest, FirstFillColorIsReplacedEverywhere) {
   for (const auto& [svg, recolored] : std::vector<std::pair<QString, std::optional<QString>>>{
            {"<a fill=\"#123\"/><b stroke=\"#123\" fill=\"#456\"/>",
             "<a fill=\"#fff\"/><b stroke=\"#fff\" fill=\"#456\"/>"},
+           {"fill=\"#123\"/>", "fill=\"#fff\"/>"},
            {"<a/>", std::nullopt},
            {"fill=\"", std::nullopt},
            {"<a fill=\"\"/>", std::nullopt}}) {
@@ -95,7 +101,7 @@ TEST(IconRecoloringTest, FirstFillColorIsReplacedEverywhere) {
   }
 }
 
-TEST(IconRecoloringTest, IconsThatCannotBeCopiedWholeAreNotCopied) {
+TEST(IconRecoloringTest, LargeOrColorlessIconsAreNotCopied) {
   const QTemporaryDir folder;
   const QByteArray svg = "<a fill=\"#123\"/>";
   struct Row {
@@ -127,26 +133,26 @@ class HighContrastTest : public DesktopMachine {
   static constexpr const char* kResource = ":/skinkit/icons/close.svg";
 };
 
-TEST_F(HighContrastTest, DialogFollowsTheSystemThereAndBack) {
-  auto desktop = machine->Desktop().State();
+TEST_F(HighContrastTest, DialogFollowsTheSystemIntoHighContrastAndBack) {
+  auto desktop = machine_->Desktop().State();
   AccessibleDialogBase dialog(nullptr);
   const QString normal = dialog.styleSheet();
   EXPECT_EQ(IconPath(dialog), kResource);
   desktop.highContrast = true;
   desktop.colors = {{8, 0x0A0B0C}, {1, 0x0D0E0F}};
-  machine->Desktop().Change(desktop);
+  machine_->Desktop().Change(desktop);
   EXPECT_TRUE(WaitFor([&] { return dialog.styleSheet() != normal; }, 5000));
   EXPECT_TRUE(
       dialog.styleSheet().contains("QWidget#border_widget{background-color:#0d0e0f;border:1px solid #0a0b0c;"));
   EXPECT_TRUE(QFile(IconPath(dialog)).exists());
   desktop.highContrast = false;
-  machine->Desktop().Change(desktop);
+  machine_->Desktop().Change(desktop);
   EXPECT_TRUE(WaitFor([&] { return dialog.styleSheet() == normal; }, 5000));
 }
 
-TEST_F(HighContrastTest, IconsAreCopiedInTheTextColorForAsLongAsTheDialogLives) {
+TEST_F(HighContrastTest, RecoloredIconsExistAsLongAsTheirDialog) {
   Install({.highContrast = true, .colors = {{8, 0x0A0B0C}}, .userName = "J\xC3\xBCrgen"});
-  const QString temporary = folder.path() + QString::fromUtf8("/Orvik/Diagnostics/J\xC3\xBCrgen/temp");
+  const QString temporary = folder_.path() + QString::fromUtf8("/Orvik/Diagnostics/J\xC3\xBCrgen/temp");
   QString path;
   {
     const AccessibleDialogBase dialog(nullptr);
@@ -160,13 +166,13 @@ TEST_F(HighContrastTest, IconsAreCopiedInTheTextColorForAsLongAsTheDialogLives) 
   EXPECT_TRUE(QDir(temporary).isEmpty());
 }
 
-TEST_F(HighContrastTest, WithoutATemporaryFolderTheIconsStayAsTheyAre) {
+TEST_F(HighContrastTest, WithoutATemporaryFolderTheOriginalIconsAreUsed) {
   for (const char* function : {"SHGetKnownFolderPath", "GetUserNameW", ""}) {
     Install({.highContrast = true});
     if (*function != '\0') {
-      machine->Faults().FailEvery(function);
+      machine_->Faults().FailEvery(function);
     } else {
-      ASSERT_TRUE(QFile(folder.filePath("Orvik")).open(QIODevice::WriteOnly));  // where the folder should be
+      ASSERT_TRUE(QFile(folder_.filePath("Orvik")).open(QIODevice::WriteOnly));  // where the folder should be
     }
     const AccessibleDialogBase dialog(nullptr);
     EXPECT_EQ(IconPath(dialog), kResource) << function;
@@ -174,13 +180,27 @@ TEST_F(HighContrastTest, WithoutATemporaryFolderTheIconsStayAsTheyAre) {
   }
 }
 
+TEST_F(HighContrastTest, ColorsKeepTheirSystemIndices) {
+  std::map<std::uint32_t, std::uint32_t> byIndex;
+  for (std::uint32_t index = 0; index <= 30; ++index) byIndex[index] = 0x102000 + index;
+  Install({.colors = byIndex});
+  const QList<QColor> colors = utils::SystemColors();
+  ASSERT_EQ(colors.size(), 30);
+  for (int k = 0; k < 30; ++k) EXPECT_EQ(colors[k].rgba(), 0xFF102000U + static_cast<QRgb>(k < 25 ? k : k + 1)) << k;
+  const utils::HighContrastColors used = utils::ColorsForHighContrast(colors);
+  EXPECT_EQ(QStringList({used.windowText, used.highlight, used.highlightText, used.buttonFace, used.buttonText,
+                         used.grayText, used.infoText, used.background})
+                .join(' '),
+            "#102008 #10200d #10200e #10200f #102012 #102011 #102017 #102001");
+}
+
 TEST_F(HighContrastTest, TemporaryFolderIsTheUsersOwn) {
   Install({.userName = std::string(256, 'u')});
   EXPECT_EQ(utils::FolderPath(utils::FolderKind::Temporary),
-            folder.path().toStdString() + "\\Orvik\\Diagnostics\\" + std::string(256, 'u') + "\\temp\\");
+            folder_.path().toStdString() + "\\Orvik\\Diagnostics\\" + std::string(256, 'u') + "\\temp\\");
 }
 
-TEST_F(HighContrastTest, OnlyThemeChangesAreTakenFromTheMessages) {
+TEST_F(HighContrastTest, OnlyThemeChangesAreConsumed) {
   AccessibleDialogBase dialog(nullptr);
   dialog.setStyleSheet("another");
   const auto send = [](const char* type, std::uint32_t id) {
