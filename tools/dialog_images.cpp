@@ -1,8 +1,8 @@
-// Makes pictures of the question dialog for the documentation: dialog_images FOLDER DPI TRANSLATION (a .qm file). One
-// process makes those of one DPI, because it asks its monitor only once.
+// Makes a picture of the question dialog for the documentation: dialog_images FILE DPI TRANSLATION CONTRAST, where
+// TRANSLATION is a .qm file and CONTRAST "normal" or "high". One picture per process, because the dialog reads the
+// monitor's DPI only once.
 
 #include <QApplication>
-#include <QDir>
 #include <QPainter>
 #include <QPixmap>
 #include <QTranslator>
@@ -13,7 +13,7 @@
 
 namespace {
 
-// Before a window of another colour, so that the corners can be told from what is behind them.
+// On a background of another colour, which shows the rounded corners.
 QImage Picture(GenericInputDialog& dialog) {
   const int margin = dialog.fontMetrics().height();
   QPixmap picture(dialog.size() + QSize(2 * margin, 2 * margin));
@@ -26,10 +26,7 @@ std::string Translated(const char* key) {
   return QCoreApplication::translate("RAID", key).toStdString();
 }
 
-bool MakePicture(const QString& folder, unsigned dpi, bool highContrast) {
-  orvik::simulation::MachineDescription description;
-  description.desktop = {.highContrast = highContrast, .dpi = dpi};
-  orvik::simulation::InstallMachine(std::make_shared<orvik::simulation::Machine>(description));
+bool MakePicture(const QString& file) {
   InputRequest request;
   request.title = Translated("CHECK_CONSISTENCY_ALREADY_IN_PROGRESS");
   request.text = Translated("CANCEL_AND_START_NEW_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE_QUESTION");
@@ -38,8 +35,7 @@ bool MakePicture(const QString& folder, unsigned dpi, bool highContrast) {
   GenericInputDialog dialog(&request, "RAID", nullptr);
   dialog.show();
   QCoreApplication::processEvents();
-  const QString name = QStringLiteral("question-%1-dpi%2.png").arg(dpi).arg(highContrast ? "-high-contrast" : "");
-  return Picture(dialog).save(QDir(folder).filePath(name), "PNG", 0);
+  return Picture(dialog).save(file, "PNG", 0);
 }
 
 }  // namespace
@@ -48,11 +44,13 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   const QStringList arguments = QApplication::arguments();
   QTranslator translator;
-  if (arguments.size() != 4 || !translator.load(arguments.at(3))) {
-    std::cerr << "dialog_images FOLDER DPI TRANSLATION\n";
+  if (arguments.size() != 5 || !translator.load(arguments.at(3))) {
+    std::cerr << "usage: dialog_images FILE DPI TRANSLATION normal|high\n";
     return 2;
   }
   QCoreApplication::installTranslator(&translator);
-  const unsigned dpi = arguments.at(2).toUInt();
-  return MakePicture(arguments.at(1), dpi, false) && MakePicture(arguments.at(1), dpi, true) ? 0 : 1;
+  orvik::simulation::MachineDescription description;
+  description.desktop = {.highContrast = arguments.at(4) == u"high", .dpi = arguments.at(2).toUInt()};
+  orvik::simulation::InstallMachine(std::make_shared<orvik::simulation::Machine>(description));
+  return MakePicture(arguments.at(1)) ? 0 : 1;
 }

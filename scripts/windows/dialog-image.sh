@@ -13,7 +13,7 @@ wine_start
 
 wine_run build/windows-simulated/bin/orvik-diag.exe --machine machines/consistency.json \
   test --only CHECK_CONSISTENCY_TEST > "$wine_scratch/diag.log" 2>&1 &
-# Nothing else is on this screen: once it is no longer of one colour, the dialog is there.
+# The screen shows nothing else: more than a few colours mean that the dialog is up.
 picture=$wine_scratch/screen.png
 for _ in $(seq 60); do
   sleep 1
@@ -22,7 +22,7 @@ for _ in $(seq 60); do
 done
 sleep 2
 import -window root "$picture"
-[ "$(identify -format %k "$picture")" -gt 16 ] || { echo "no dialog came up" >&2; cat "$wine_scratch/diag.log" >&2; exit 1; }
+[ "$(identify -format %k "$picture")" -gt 16 ] || { echo "the dialog did not appear" >&2; cat "$wine_scratch/diag.log" >&2; exit 1; }
 mkdir -p docs/images
 convert-im6.q16 "$picture" -trim -bordercolor black -border 12 -strip docs/images/question-on-windows.png
 echo docs/images/question-on-windows.png
