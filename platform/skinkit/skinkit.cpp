@@ -11,7 +11,7 @@ Q_IMPORT_PLUGIN(SvgIconPlugin)
 #ifdef Q_OS_WIN
 namespace {
 
-// Qt has no call to take a plug-in back, so this library must stay loaded when its last user is unloaded.
+// Qt can't unregister plug-ins, so this library must stay loaded when its last user is unloaded.
 void PinLibrary() {
   static constexpr char kInThisLibrary = 0;
   constexpr DWORD kFlags = GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS;

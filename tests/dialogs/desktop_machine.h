@@ -1,6 +1,6 @@
 #pragma once
 
-// The machine that a dialog test runs on, and the questions that it asks.
+// The machine and the questions of the dialog tests.
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -32,7 +32,7 @@ class DesktopMachine : public ::testing::Test {
   std::shared_ptr<simulation::Machine> machine_;
 };
 
-/// `kind` and `buttons` as a request has them.
+/// A question with the request's codes for kind and buttons.
 inline std::unique_ptr<InputRequest> Question(std::uint32_t kind, std::uint32_t buttons) {
   auto request = std::make_unique<InputRequest>();
   request->answer = 99;

@@ -1,6 +1,6 @@
 #pragma once
 
-// What a user does to a window, and waiting for it, without Qt's own test library.
+// User input to windows, and waiting for its effect, without Qt's own test library.
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -10,7 +10,7 @@
 
 namespace orvik::testing {
 
-/// Runs the event loop until `condition` holds, at most this long. False when it does not hold.
+/// Runs the event loop until `condition` holds or the time is up. Returns whether it holds.
 template <typename Condition>
 bool WaitFor(Condition condition, int milliseconds) {
   QElapsedTimer time;
@@ -26,7 +26,7 @@ inline void PressKey(QWidget* widget, Qt::Key key) {
   QApplication::sendEvent(widget, &release);
 }
 
-/// A mouse event over the middle of `widget`, `by` away from there on the screen.
+/// Sends a mouse event at an offset of `by` from the middle of `widget`.
 inline void MouseEvent(QWidget* widget, QEvent::Type type, QPoint by = {}) {
   const QPoint local = widget->rect().center() + by;
   const auto buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;

@@ -1,4 +1,4 @@
-// The dialogs' tests need an application, whose GUI thread is this one, but no display.
+// The dialog tests need an application with this thread as its GUI thread, but no display.
 
 #include <QApplication>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The module's library asks its question over a host's window and is unloaded; the window lives on.
+// Unloads the module's library after its question was shown over a window of the host.
 
 #include <QApplication>
 #include <QLibrary>
@@ -37,7 +37,7 @@ class Reporter final : public contract::Reporter {
   void Ask(std::unique_ptr<contract::Question>& question) override {
     question->Interact();
     asked = true;
-    abort = 1;  // the rest of the run is of no interest
+    abort = 1;  // the test needs no more of the run
   }
 
   std::uint8_t abort = 0;
@@ -81,7 +81,7 @@ bool AskAndClose(contract::Module& module, simulation::Machine& machine) {
   return reporter.asked;
 }
 
-TEST(UnloadingTest, HostsWindowLivesOnWithoutTheLibrary) {
+TEST(UnloadingTest, HostGoesOnAfterAQuestion) {
   for (int round = 0; round < 5; ++round) {
     auto loaded = simulation::LoadMachine(ORVIK_MACHINES_DIR "/consistency.json");
     const auto machine = std::get<std::shared_ptr<simulation::Machine>>(loaded);

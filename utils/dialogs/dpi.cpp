@@ -14,11 +14,11 @@
 
 namespace {
 
-// What sizes are made for.
+// The DPI and the screen that unscaled sizes are designed for.
 constexpr int kUnscaledDpi = 96;
 constexpr QSize kReference(800, 600);
 
-/// The system's library for monitor DPI, loaded for as long as it is asked.
+/// The system's library for monitor DPI, loaded while it is in use.
 class ScalingLibrary {
  public:
   ScalingLibrary() : library_(get_module()->Load("shcore.dll", 1)) {}
@@ -28,7 +28,7 @@ class ScalingLibrary {
     if (library_ != nullptr) get_module()->Unload(library_);
   }
 
-  /// Null when the library or the function is missing. The second argument only tells the function's type.
+  /// Null when the library or the function is missing. The second argument gives the function's type.
   template <typename Function>
   Function* Find(const char* name, Function* /*type*/) const {
     return library_ == nullptr ? nullptr : std::bit_cast<Function*>(get_module()->FindSymbol(library_, name));

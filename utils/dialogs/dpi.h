@@ -3,7 +3,7 @@
 #include <QSize>
 #include <QWidget>
 
-/// The DPI of the primary monitor in five steps, and the sizes of dialogs that follow from it. GUI thread only.
+/// The primary monitor's DPI, rounded to one of five steps, and the scaling of dialog sizes with it. GUI thread only.
 class Dpi : public QWidget {
  public:
   Dpi(const Dpi&) = delete;
@@ -14,16 +14,16 @@ class Dpi : public QWidget {
   /// while there is no top-level widget. The monitor is queried only once. Valid until `Release` or until its parent
   /// is destroyed; the next call creates it again.
   static const Dpi* Instance();
-  /// Takes the instance out of its parent, which may be a window of the host and outlive this library.
+  /// Destroys the instance, because its parent may be a window of the host that outlives this library.
   static void Release();
 
-  /// What the system says about the primary monitor, or else Qt about the screen.
+  /// Horizontal and vertical DPI that the system reports for the primary monitor, or else Qt for the primary screen.
   static QSize Detected();
-  /// 96, 120, 144, 168 or 192: the step that `dpi` lies on.
+  /// The highest step that is not above `dpi`; the lowest step for smaller values.
   static int Step(int dpi);
-  /// A size made for 96 DPI on `dpi`, as far as the screen allows.
+  /// Scales a size in unscaled pixels to `dpi`, within the limits of a screen of size `screen`.
   static QSize Scaled(QSize size, int dpi, QSize screen);
-  /// The size on the first screen.
+  /// Scales a size to the instance's DPI on the first screen.
   QSize Scaled(QSize size) const;
 
  protected:
@@ -34,5 +34,5 @@ class Dpi : public QWidget {
 
   static inline Dpi* instance_ = nullptr;
   int horizontal_;
-  int vertical_;
+  [[maybe_unused]] int vertical_;  // the class has both; sizes follow the horizontal one
 };

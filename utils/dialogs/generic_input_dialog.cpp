@@ -13,7 +13,7 @@
 
 namespace {
 
-// Pixels at 96 DPI.
+// Unscaled pixels.
 constexpr int kLeastWidth = 331;
 constexpr int kRoomBesideTitle = 80;
 constexpr int kRoomBesideText = 40;

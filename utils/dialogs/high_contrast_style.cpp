@@ -20,7 +20,7 @@ Declarations ParseDeclarations(const QString& body) {
     const qsizetype colon = text.indexOf(u':');
     if (colon < 0) continue;
     const QString property = text.left(colon).trimmed();
-    // A value may have colons of its own, as the path of a resource has.
+    // The value may contain colons, as resource paths do.
     if (!property.isEmpty()) declarations[property] = text.mid(colon + 1).trimmed();
   }
   return declarations;
@@ -48,7 +48,7 @@ QString Serialise(const Rules& rules) {
   return text;
 }
 
-// The selector of the rule for `state` (":hover") of everything that `selector` names.
+// `selector` with `state`, such as ":hover", appended to each of its comma-separated parts.
 QString WithState(const QString& selector, const QString& state) {
   QStringList parts;
   for (const QString& part : selector.split(u',')) parts.append(part.trimmed() + state);
@@ -59,13 +59,13 @@ QString Solid(const QString& color) {
   return QStringLiteral("1px solid ") + color;
 }
 
-/// The rules of one style sheet on their way into high contrast.
+/// Rewrites the rules of one style sheet.
 class Rewriter {
  public:
   Rewriter(Rules rules, const HighContrastColors& colors) : rules_(std::move(rules)), colors_(colors) {}
 
   Rules Rewritten() {
-    // Only the sheet's own selectors: the rules that are added here are as they should be.
+    // Only the sheet's own rules: those that the rewriting adds are final.
     std::vector<QString> selectors;
     for (const auto& [selector, rule] : rules_) selectors.push_back(selector);
     for (const QString& selector : selectors) Rewrite(selector);
@@ -115,7 +115,7 @@ class Rewriter {
                                State{QStringLiteral(":selected"), colors_.highlightText},
                                State{QStringLiteral(":active"), colors_.infoText},
                                State{QStringLiteral(":focus"), colors_.windowText}};
-    // A label's own rule colours its states, which come after it: they must not become the label's colour again.
+    // Sorted before its states, the label's own rule has already set their colours.
     const bool isState = std::ranges::any_of(states, [&](const State& state) {
       return selector.endsWith(state.name) && rules_.contains(selector.chopped(state.name.size()));
     });
@@ -137,7 +137,7 @@ class Rewriter {
     rule[QStringLiteral("border")] = hover ? QStringLiteral("none") : Solid(colors_.buttonText);
   }
 
-  // Round, so that it can be told from the buttons that answer.
+  // Round, to set it apart from the answer buttons.
   void RewriteCloseButton(const QString& selector) {
     Declarations& rule = rules_[selector];
     rule[QStringLiteral("border-radius")] = QStringLiteral("14px");
@@ -158,7 +158,7 @@ class Rewriter {
   const HighContrastColors& colors_;
 };
 
-// The first part of a value between double quotes; empty when there is none.
+// The first double-quoted part of a value; empty when there is none.
 QString QuotedPath(const QString& value) {
   const qsizetype open = value.indexOf(u'"');
   const qsizetype close = open < 0 ? -1 : value.indexOf(u'"', open + 1);

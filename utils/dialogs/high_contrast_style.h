@@ -1,6 +1,6 @@
 #pragma once
 
-// Rewriting of a style sheet into the system's high-contrast colours: text in, text out.
+// Rewrites a style sheet for high contrast, as text.
 
 #include <QString>
 #include <functional>
@@ -20,12 +20,12 @@ struct HighContrastColors {
   QString background;
 };
 
-/// Gets the value of an "image" or "icon" property and the path in it; returns the value to take its place, or
-/// nothing to leave it as it is.
+/// Called with the value of an "image" or "icon" property and the path in it. Returns the new value, or nothing to
+/// keep the old one.
 using IconReplacement = std::function<std::optional<QString>(const QString& value, const QString& path)>;
 
-/// The rules of `styleSheet`, ordered by selector, in high contrast. Takes any text: what is not a declaration or a
-/// rule is dropped.
+/// The rules of `styleSheet`, ordered by selector, in high contrast. Accepts any text and drops what is neither a
+/// rule nor a declaration.
 QString HighContrastStyleSheet(const QString& styleSheet, const HighContrastColors& colors,
                                const IconReplacement& replaceIcon);
 

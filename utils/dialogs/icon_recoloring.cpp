@@ -24,7 +24,7 @@ QString IconBaseName(const QString& value) {
        {QStringLiteral("url(\":/"), QStringLiteral("="), QStringLiteral("\")"), QStringLiteral(".svg")}) {
     name.remove(part);
   }
-  // Neither kind of separator may lead out of the folder.
+  // The name must not contain a separator that leads out of the folder.
   name.replace(u'/', u'_').replace(u'\\', u'_');
   return name.isEmpty() ? QStringLiteral("temp_svg") : name;
 }
