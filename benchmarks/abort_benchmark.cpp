@@ -8,7 +8,7 @@
 
 #include "benchmarks/machines.h"
 #include "benchmarks/outside_calls.h"
-#include "module/raid/diagnostics/check_consistency.h"
+#include "module/raid/diagnostics/raid_tests.h"
 #include "module/raid/storelib/storelib_device.h"
 
 namespace orvik::benchmarks {

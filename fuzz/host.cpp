@@ -5,12 +5,7 @@
 #include <string>
 
 #include "fuzz/input.h"
-#include "module/raid/diagnostics/battery_backup_unit_status.h"
-#include "module/raid/diagnostics/check_consistency.h"
-#include "module/raid/diagnostics/controller_status.h"
-#include "module/raid/diagnostics/enclosures_status.h"
-#include "module/raid/diagnostics/logical_drives_status.h"
-#include "module/raid/diagnostics/raid_status.h"
+#include "module/raid/diagnostics/raid_tests.h"
 #include "utils/dialogs/gui_dialog_input_interaction.h"
 
 namespace orvik::fuzz {

@@ -8,7 +8,7 @@
 
 #include "fuzz/host.h"
 #include "fuzz/replies.h"
-#include "module/raid/csmi/csmi_adapter.h"
+#include "module/raid/csmi/csmi_device_manager.h"
 #include "module/storage/ata/ata_protocol.h"
 #include "module/storage/nvme/nvme_protocol.h"
 #include "module/storage/scsi/scsi_protocol.h"

@@ -83,7 +83,8 @@ class ScanScene final : public Scene {
 /// A scene on a device that a scan has found.
 class DeviceScene : public Scene {
  public:
-  explicit DeviceScene(const char* id) : Scene(testing::Install(BothFamilies())) {
+  explicit DeviceScene(const char* id, const MachineDescription& description = BothFamilies())
+      : Scene(testing::Install(description)) {
     scanner_.Scan(std::make_shared<ScanRecorder>());
     device = scanner_.FindDevice(id).lock();
   }
@@ -153,12 +154,16 @@ Subject Make(std::string name, Arguments... arguments) {
 std::vector<Subject> ModuleSubjects() {
   auto storelibOnly = BothFamilies();
   storelibOnly.adapters.pop_back();
+  // Each member that is not an NVMe drive costs a search over all paths.
+  auto nvmeSet = BothFamilies();
+  std::erase_if(nvmeSet.adapters.back().csmi->raidSets.front().members,
+                [](const auto& member) { return member.drive != 3; });
   std::vector<Subject> subjects = {
       Make<CreationScene>("creation"),
       Make<PresenceScene>("presence of the first family", BothFamilies()),
       Make<PresenceScene>("presence of the second family", storelibOnly),
       Make<ScanScene>("scan"),
-      Make<MembersScene>("members of the first family", kCsmiDevice),
+      Make<MembersScene>("members of the first family", kCsmiDevice, nvmeSet),
       Make<MembersScene>("members of the second family", kLsiDevice),
   };
   for (const core::TestId id : {1, 2, 3, 4, 5, 6}) {

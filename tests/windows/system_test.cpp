@@ -10,7 +10,7 @@
 #include <chrono>
 #include <thread>
 
-#include "module/raid/csmi/csmi_adapter.h"
+#include "module/raid/csmi/csmi_device_manager.h"
 #include "module/raid/family/driver_version.h"
 #include "utils/devices/win_device_interface_scanner.h"
 #include "utils/dispatcher/thread_pool.h"

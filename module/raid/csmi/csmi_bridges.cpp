@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "module/raid/family/register_fis.h"
+#include "module/raid/family/pass_through.h"
 
 namespace orvik::module::raid {
 
@@ -30,26 +30,12 @@ void TakeScsiStatus(ByteView packet, storage::ScsiCmd& command) {
   command.status = packet.Get(csmi::ssp::kScsiStatus);
 }
 
-void TakeRegisters(ByteView statusFis, storage::AtaCmd& command) {
-  using namespace status_fis;
-  const auto both = [statusFis](utils::U8 current, utils::U8 previous) {
-    return storage::Register(statusFis.Get(current), statusFis.Get(previous));
-  };
-  storage::SetCurrent(command.features, statusFis.Get(kError));
-  command.sectorCount = both(kSectorCount, kSectorCountExp);
-  command.lbaLow = both(kLbaLow, kLbaLowExp);
-  command.lbaMid = both(kLbaMid, kLbaMidExp);
-  command.lbaHigh = both(kLbaHigh, kLbaHighExp);
-  command.device = statusFis.Get(kDevice);
-  command.command = statusFis.Get(kStatus);
-}
-
 CsmiSspBridge::CsmiSspBridge(HANDLE port, ByteView phyEntry) : ScsiBridge(port), phyEntry_(CopyEntry(phyEntry)) {}
 
 storage::Status CsmiSspBridge::Send(storage::ScsiCmd& command) {
   SspPassThroughPacket packet(command, ByteView(phyEntry_));
   const storage::Status sent = SendCsmiPacket(GetHandle(), packet);
-  if (sent == storage::status::kSuccess && command.direction == Direction::kIn) {
+  if (sent.Ok() && command.direction == Direction::kIn) {
     storage::DeliverData(command, packet.Data());
   }
   TakeScsiStatus(packet.View(), command);
@@ -61,10 +47,10 @@ CsmiStpBridge::CsmiStpBridge(HANDLE port, ByteView phyEntry) : AtaBridge(port), 
 storage::Status CsmiStpBridge::Send(storage::AtaCmd& command) {
   StpPassThroughPacket packet(command, ByteView(phyEntry_));
   const storage::Status sent = SendCsmiPacket(GetHandle(), packet);
-  if (sent == storage::status::kSuccess && command.direction == Direction::kIn) {
+  if (sent.Ok() && command.direction == Direction::kIn) {
     storage::DeliverData(command, packet.Data());
   }
-  TakeRegisters(packet.StatusFis(), command);
+  TakeAllRegisters(packet.StatusFis(), command);
   return sent;
 }
 

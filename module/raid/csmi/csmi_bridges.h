@@ -16,36 +16,33 @@ namespace orvik::module::raid {
 /// A drive's 64-byte entry of the phy information: its address behind the controller.
 using PhyEntry = std::array<std::uint8_t, csmi::phy_information::kPhys.stride>;
 
-/// Carries SCSI commands to the SAS drive on a phy. The port handle is the controller's and must outlive the bridge.
+/// Carries SCSI commands to the SAS drive on a phy. The port handle must outlive the bridge.
 class CsmiSspBridge final : public storage::ScsiBridge {
  public:
   CsmiSspBridge(HANDLE port, utils::ByteView phyEntry);
 
-  /// 0, or 34 when the packet could not be sent. What the drive says is in the command's status and sense data, also
-  /// after a failure; `length` stays what was asked for.
+  /// Returns kIoctlFailed when the packet could not be sent. The command holds the drive's status and sense data,
+  /// also after a failure; its `length` does not change.
   storage::Status Send(storage::ScsiCmd& command) override;
 
  private:
   PhyEntry phyEntry_{};
 };
 
-/// Carries ATA commands to the SATA drive on a phy. The port handle is the controller's and must outlive the bridge.
+/// Carries ATA commands to the SATA drive on a phy. The port handle must outlive the bridge.
 class CsmiStpBridge final : public storage::AtaBridge {
  public:
   CsmiStpBridge(HANDLE port, utils::ByteView phyEntry);
 
-  /// 0, or 34 when the packet could not be sent. What the drive says is in the command's registers, also after a
-  /// failure; `length` stays what was asked for.
+  /// Returns kIoctlFailed when the packet could not be sent. The command holds the drive's registers, also after a
+  /// failure; its `length` does not change.
   storage::Status Send(storage::AtaCmd& command) override;
 
  private:
   PhyEntry phyEntry_{};
 };
 
-/// Takes SCSI status and sense data of a returned packet, at most as many sense bytes as the command holds.
+/// Takes the SCSI status and the sense data of a returned packet, limited to the sense bytes that the command holds.
 void TakeScsiStatus(utils::ByteView packet, storage::ScsiCmd& command);
-
-/// Takes the register FIS of a returned packet (20 bytes) into the command's registers.
-void TakeRegisters(utils::ByteView statusFis, storage::AtaCmd& command);
 
 }  // namespace orvik::module::raid

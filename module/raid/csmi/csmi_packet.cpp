@@ -3,16 +3,15 @@
 #include <algorithm>
 
 #include <winioctl.h>
-// Needs what comes before it.
+// Uses macros of the headers above.
 #include <ntddscsi.h>
 
-#include "module/raid/family/register_fis.h"
+#include "module/raid/family/pass_through.h"
 
 namespace orvik::module::raid {
 
 namespace {
 
-using storage::Direction;
 using utils::ByteView;
 using utils::MutableByteView;
 
@@ -29,19 +28,8 @@ void PutAddress(MutableByteView packet, ByteView phyEntry) {
                   phyEntry.Sub(csmi::phy::kAttachedSasAddress).Bytes());
 }
 
-std::uint32_t DirectionFlag(Direction direction) {
-  switch (direction) {
-    case Direction::kIn: return csmi::pass_through::kRead;
-    case Direction::kOut: return csmi::pass_through::kWrite;
-    case Direction::kNone: break;
-  }
-  return csmi::pass_through::kUnspecified;
-}
-
-void PutDataOut(MutableByteView packet, std::size_t offset, Direction direction, const std::uint8_t* data,
-                std::uint64_t length) {
-  if (direction == Direction::kOut && data != nullptr) packet.PutBytes({offset, length}, {data, length});
-}
+constexpr DirectionCodes kDirectionFlags{
+    .in = csmi::pass_through::kRead, .out = csmi::pass_through::kWrite, .none = csmi::pass_through::kUnspecified};
 
 }  // namespace
 
@@ -66,8 +54,17 @@ ControllerStatusPacket::ControllerStatusPacket()
 
 PhyInformationPacket::PhyInformationPacket() : FixedCsmiPacket(kSignatureSas, csmi::phy_information::kControlCode) {}
 
-std::vector<ByteView> PhyInformationPacket::Phys() const {
-  return View().Entries(csmi::phy_information::kPhys, View().Get(csmi::phy_information::kNumberOfPhys));
+std::vector<ByteView> PhyInformationPacket::PhysWithDrives() const {
+  auto phys = View().Entries(csmi::phy_information::kPhys, View().Get(csmi::phy_information::kNumberOfPhys));
+  std::erase_if(phys, [](ByteView phy) {
+    return phy.Get(csmi::phy::kAttachedDeviceType) != csmi::phy::kEndDevice ||
+           phy.Get(csmi::phy::kAttachedTargetProtocol) == csmi::phy::kTargetSmp;
+  });
+  return phys;
+}
+
+bool IsSasDrive(ByteView phyEntry) {
+  return phyEntry.Get(csmi::phy::kAttachedTargetProtocol) == csmi::phy::kTargetSsp;
 }
 
 RaidInformationPacket::RaidInformationPacket()
@@ -89,9 +86,9 @@ SspPassThroughPacket::SspPassThroughPacket(const storage::ScsiCmd& command, Byte
   const std::size_t cdbLength = std::min<std::size_t>(command.cdbLength, command.cdb.size());
   Writer().Put(csmi::ssp::kCdbLength, static_cast<std::uint8_t>(cdbLength));
   Writer().PutBytes(csmi::ssp::kCdb, std::span(command.cdb).first(cdbLength));
-  Writer().Put(csmi::ssp::kFlags, DirectionFlag(command.direction));
+  Writer().Put(csmi::ssp::kFlags, kDirectionFlags.Of(command.direction));
   Writer().Put(csmi::ssp::kDataLength, static_cast<std::uint32_t>(command.length));
-  PutDataOut(Writer(), csmi::ssp::kData, command.direction, command.buffer, command.length);
+  PutDataOut(Writer(), csmi::ssp::kData, command);
 }
 
 ByteView SspPassThroughPacket::Data() const {
@@ -102,9 +99,9 @@ StpPassThroughPacket::StpPassThroughPacket(const storage::AtaCmd& command, ByteV
     : SizedCsmiPacket(csmi::stp::kSizeWithoutData + command.length, kSignatureSas, csmi::stp::kControlCode) {
   PutAddress(Writer(), phyEntry);
   PutCommandFis(Writer().Sub(csmi::stp::kCommandFis), command);
-  Writer().Put(csmi::stp::kFlags, csmi::pass_through::kPio | DirectionFlag(command.direction));
+  Writer().Put(csmi::stp::kFlags, csmi::pass_through::kPio | kDirectionFlags.Of(command.direction));
   Writer().Put(csmi::stp::kDataLength, static_cast<std::uint32_t>(command.length));
-  PutDataOut(Writer(), csmi::stp::kData, command.direction, command.buffer, command.length);
+  PutDataOut(Writer(), csmi::stp::kData, command);
 }
 
 ByteView StpPassThroughPacket::Data() const {
@@ -120,8 +117,7 @@ storage::Status SendCsmiPacket(HANDLE port, CsmiPacket& packet) {
 }
 
 storage::Status ExchangeCsmiPacket(HANDLE port, CsmiPacket& packet) {
-  const storage::Status sent = SendCsmiPacket(port, packet);
-  if (sent != storage::status::kSuccess) return sent;
+  if (const storage::Status sent = SendCsmiPacket(port, packet); !sent.Ok()) return sent;
   return packet.ReturnCode() == 0 ? storage::status::kSuccess : storage::status::kCsmiReturnCode;
 }
 

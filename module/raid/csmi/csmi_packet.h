@@ -83,9 +83,13 @@ class PhyInformationPacket final : public FixedCsmiPacket<csmi::phy_information:
  public:
   PhyInformationPacket();
 
-  /// The 64-byte entries of the reply, at most as many as the packet holds.
-  std::vector<utils::ByteView> Phys() const;
+  /// The 64-byte entries of the reply that have an end device other than an SMP target; at most as many as the packet
+  /// holds.
+  std::vector<utils::ByteView> PhysWithDrives() const;
 };
+
+/// The phy (64-byte entry) has a SAS drive; any other drive is SATA.
+bool IsSasDrive(utils::ByteView phyEntry);
 
 class RaidInformationPacket final : public FixedCsmiPacket<csmi::raid_information::kSize> {
  public:
@@ -97,7 +101,7 @@ class RaidInformationPacket final : public FixedCsmiPacket<csmi::raid_informatio
 
 class RaidConfigurationPacket final : public SizedCsmiPacket {
  public:
-  /// `drivesPerSet` above 255 counts as 255: a reply counts its drives in one byte.
+  /// A reply counts its drives in one byte, so `drivesPerSet` is limited to the largest one.
   RaidConfigurationPacket(std::uint32_t setIndex, std::uint32_t drivesPerSet);
 
   /// The 136-byte entries of the reply, at most as many as the packet holds.
@@ -121,11 +125,12 @@ class StpPassThroughPacket final : public SizedCsmiPacket {
   utils::ByteView Data() const;
 };
 
-/// Sends the packet to a SCSI port, synchronously; the reply stands in the packet. 0, or 34 when the call failed. The
-/// packet's ReturnCode is the caller's to judge.
+/// Sends the packet to a SCSI port, synchronously; the reply replaces it. Returns kIoctlFailed when the call fails
+/// and does not examine the packet's ReturnCode.
 storage::Status SendCsmiPacket(HANDLE port, CsmiPacket& packet);
 
-/// Sends the packet: 0, 34 when the call failed, or 66 for a non-zero ReturnCode.
+/// Sends the packet and examines its ReturnCode: returns kIoctlFailed when the call fails, kCsmiReturnCode for a
+/// ReturnCode other than 0.
 storage::Status ExchangeCsmiPacket(HANDLE port, CsmiPacket& packet);
 
 }  // namespace orvik::module::raid

@@ -1,5 +1,6 @@
 // The protocol objects that reach the member drives of a CSMI controller.
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <utility>
@@ -7,8 +8,8 @@
 
 #include "module/raid/csmi/csmi_bridges.h"
 #include "module/raid/csmi/csmi_device.h"
-#include "module/raid/csmi/csmi_layout.h"
-#include "module/raid/family/protocol_object.h"
+#include "module/raid/csmi/drive_descriptions.h"
+#include "module/raid/family/pass_through.h"
 #include "module/storage/ata/ata_protocol.h"
 #include "module/storage/nvme/nvme_protocol.h"
 #include "module/storage/nvme/path_scan.h"
@@ -18,21 +19,38 @@ namespace orvik::module::raid {
 
 namespace {
 
-namespace status = storage::status;
+using storage::Status;
 
-// Path ids are one byte, so a controller that has more drives to show makes them up.
-constexpr std::size_t kMaximumNvmeDrives = 256;
+// Path ids are one byte, so further members cannot exist, and each search sends up to this many commands.
+constexpr std::size_t kMaximumNvmeSearches = 256;
 
-StorageDeviceEntry AttachedDrive(HANDLE port, utils::ByteView phyEntry) {
+/// A bridge together with the port that it sends on.
+template <typename Bridge>
+struct BridgeOnPort {
+  template <typename... Arguments>
+  explicit BridgeOnPort(SharedPort onPort, const Arguments&... arguments)
+      : port(std::move(onPort)), bridge(port->Get(), arguments...) {}
+
+  SharedPort port;
+  Bridge bridge;
+};
+
+template <typename Bridge, typename... Arguments>
+std::shared_ptr<Bridge> MakeBridge(const SharedPort& port, const Arguments&... arguments) {
+  const auto owner = std::make_shared<BridgeOnPort<Bridge>>(port, arguments...);
+  return {owner, &owner->bridge};
+}
+
+StorageDeviceEntry AttachedDrive(const SharedPort& port, utils::ByteView phyEntry) {
   StorageDeviceEntry entry;
-  if (phyEntry.Get(csmi::phy::kAttachedTargetProtocol) == csmi::phy::kTargetSsp) {
+  if (IsSasDrive(phyEntry)) {
     entry.protocol = DriveProtocol::Scsi;
     entry.protocolObject = MakeProtocol<storage::ScsiProtocol>(storage::interface_kind::kScsi,
-                                                               std::make_shared<CsmiSspBridge>(port, phyEntry));
+                                                               MakeBridge<CsmiSspBridge>(port, phyEntry));
   } else {
     entry.protocol = DriveProtocol::Ata;
-    entry.protocolObject = MakeProtocol<storage::AtaProtocol>(storage::interface_kind::kAta,
-                                                              std::make_shared<CsmiStpBridge>(port, phyEntry));
+    entry.protocolObject =
+        MakeProtocol<storage::AtaProtocol>(storage::interface_kind::kAta, MakeBridge<CsmiStpBridge>(port, phyEntry));
   }
   return entry;
 }
@@ -41,31 +59,27 @@ StorageDeviceEntry AttachedDrive(HANDLE port, utils::ByteView phyEntry) {
 
 std::uint32_t CsmiDevice::GetStorageDevices(std::vector<StorageDeviceEntry>& devices) {
   PhyInformationPacket information;
-  if (const auto sent = ExchangeCsmiPacket(port_.Get(), information); sent != status::kSuccess) return sent;
-  for (const utils::ByteView entry : information.Phys()) {
-    if (entry.Get(csmi::phy::kAttachedDeviceType) != csmi::phy::kEndDevice) continue;
-    if (entry.Get(csmi::phy::kAttachedTargetProtocol) == csmi::phy::kTargetSmp) continue;
-    devices.push_back(AttachedDrive(port_.Get(), entry));
-  }
-  const storage::Status result = AddNvmeStorageDevices(devices);
+  if (const Status sent = ExchangeCsmiPacket(port_->Get(), information); !sent.Ok()) return sent.Code();
+  for (const utils::ByteView entry : information.PhysWithDrives()) devices.push_back(AttachedDrive(port_, entry));
+  const Status result = AddNvmeStorageDevices(devices);
   for (std::size_t number = 0; number < devices.size(); ++number) {
-    devices[number].id = "r" + identifier + "-" + std::to_string(number);
+    devices[number].id = "r" + identifier_ + "-" + std::to_string(number);
   }
-  return result;
+  return result.Code();
 }
 
-storage::Status CsmiDevice::AddNvmeStorageDevices(std::vector<StorageDeviceEntry>& devices) {
-  // The count is taken as it came back, whatever the ReturnCode.
+Status CsmiDevice::AddNvmeStorageDevices(std::vector<StorageDeviceEntry>& devices) {
+  // The ReturnCode is not examined: the count is used as returned.
   RaidInformationPacket information;
-  if (const auto sent = SendCsmiPacket(port_.Get(), information); sent != status::kSuccess) return sent;
+  if (const Status sent = SendCsmiPacket(port_->Get(), information); !sent.Ok()) return sent;
   std::vector<std::string> serials;
-  bool exhausted = false;  // a search that found nothing would find nothing again
+  std::size_t searches = 0;
   return VisitRaidSets(information, [&](std::uint32_t, const RaidConfigurationPacket& set) {
-    for (std::size_t member = 0; member < set.Drives().size() && !exhausted; ++member) {
-      auto bridge = std::make_shared<storage::NvmeIntelBridge>(port_.Get());
+    for (std::size_t member = 0; member < set.Drives().size() && searches < kMaximumNvmeSearches; ++member) {
+      ++searches;
+      auto bridge = MakeBridge<storage::NvmeIntelBridge>(port_);
       storage::NvmePath path;
-      exhausted = serials.size() == kMaximumNvmeDrives || !storage::FindNvmePath(*bridge, serials, path);
-      if (exhausted) break;
+      if (!storage::FindNvmePath(*bridge, serials, path)) continue;
       auto protocol = MakeProtocol<storage::NvmeProtocol>(storage::interface_kind::kNvme,
                                                           std::shared_ptr<storage::NvmeBridge>(std::move(bridge)));
       protocol->SetPathId(path.pathId);

@@ -1,4 +1,4 @@
-#include "module/raid/diagnostics/battery_backup_unit_status.h"
+#include "module/raid/diagnostics/raid_tests.h"
 
 #include <array>
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "module/raid/diagnostics/check_consistency.h"
+#include "module/raid/diagnostics/raid_tests.h"
 #include "module/raid/storelib/storelib_device.h"
 
 namespace orvik::module::raid {

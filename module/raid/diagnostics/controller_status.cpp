@@ -1,4 +1,4 @@
-#include "module/raid/diagnostics/controller_status.h"
+#include "module/raid/diagnostics/raid_tests.h"
 
 #include "module/raid/diagnostics/message_keys.h"
 

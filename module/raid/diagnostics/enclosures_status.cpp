@@ -1,4 +1,4 @@
-#include "module/raid/diagnostics/enclosures_status.h"
+#include "module/raid/diagnostics/raid_tests.h"
 
 #include <hostkit.h>
 

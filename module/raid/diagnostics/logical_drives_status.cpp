@@ -1,4 +1,4 @@
-#include "module/raid/diagnostics/logical_drives_status.h"
+#include "module/raid/diagnostics/raid_tests.h"
 
 #include <array>
 

@@ -3,12 +3,7 @@
 #include <mutex>
 #include <set>
 
-#include "module/raid/diagnostics/battery_backup_unit_status.h"
-#include "module/raid/diagnostics/check_consistency.h"
-#include "module/raid/diagnostics/controller_status.h"
-#include "module/raid/diagnostics/enclosures_status.h"
-#include "module/raid/diagnostics/logical_drives_status.h"
-#include "module/raid/diagnostics/raid_status.h"
+#include "module/raid/diagnostics/raid_tests.h"
 
 namespace orvik::module::raid {
 

@@ -32,66 +32,66 @@ std::string SizeText(std::uint64_t bytes) {
 }  // namespace
 
 storage::Status Device::BuildProperties() {
-  resources.clear();
-  if (GetControllerInfo(controllerInfo) == storage::status::kSuccess) AddControllerProperties();
+  resources_.clear();
+  if (GetControllerInfo(controllerInfo_) == storage::status::kSuccess) AddControllerProperties();
 
   std::vector<LogicalDrive> logicalDrives;
   const bool listed = GetLogicalDrives(logicalDrives) == storage::status::kSuccess;
-  if (listed && controllerInfo.logicalDriveCount > 0) AddLogicalDisks(logicalDrives);
+  if (listed && controllerInfo_.logicalDriveCount > 0) AddLogicalDisks(logicalDrives);
 
   std::vector<PhysicalDrive> physicalDrives;
   const storage::Status result = GetPhysicalDrives(physicalDrives);
   if (result == storage::status::kSuccess) {
     const std::size_t count = physicalDrives.size();
     AddPhysicalDisks(std::move(physicalDrives));
-    properties.emplace_back("NUM_PHYSICAL_DEVICES", std::to_string(count));
-    AddIfNotEmpty(properties, "DRIVER_VERSION", controllerInfo.driverVersion);
+    properties_.emplace_back("NUM_PHYSICAL_DEVICES", std::to_string(count));
+    AddIfNotEmpty(properties_, "DRIVER_VERSION", controllerInfo_.driverVersion);
   }
   return result;
 }
 
 void Device::AddControllerProperties() {
-  displayName = controllerInfo.model;
-  if (!controllerInfo.serial.empty()) displayName += " - " + controllerInfo.serial;
-  udi = controllerInfo.udi;
+  displayName_ = controllerInfo_.model;
+  if (!controllerInfo_.serial.empty()) displayName_ += " - " + controllerInfo_.serial;
+  udi_ = controllerInfo_.udi;
 
-  AddIfNotEmpty(properties, "UDI", udi);
-  AddIfNotEmpty(properties, "MODEL", controllerInfo.model);
-  if (controllerInfo.platform != kCapabilitiesNotFound) {
-    AddIfNotEmpty(properties, "PLATFORM", controllerInfo.platform);
+  AddIfNotEmpty(properties_, "UDI", udi_);
+  AddIfNotEmpty(properties_, "MODEL", controllerInfo_.model);
+  if (controllerInfo_.platform != kCapabilitiesNotFound) {
+    AddIfNotEmpty(properties_, "PLATFORM", controllerInfo_.platform);
   }
-  AddIfNotEmpty(properties, "SERIAL", controllerInfo.serial);
-  if (controllerInfo.logicalDriveCount >= 0) {
-    properties.emplace_back("NUM_LOGICAL_DEVICES", std::to_string(controllerInfo.logicalDriveCount));
+  AddIfNotEmpty(properties_, "SERIAL", controllerInfo_.serial);
+  if (controllerInfo_.logicalDriveCount >= 0) {
+    properties_.emplace_back("NUM_LOGICAL_DEVICES", std::to_string(controllerInfo_.logicalDriveCount));
   }
-  AddIfNotEmpty(properties, "SUPPORTED_INTERFACES", Join(controllerInfo.supportedInterfaces));
-  AddIfNotEmpty(properties, "SUPPORTED_RAID_LEVELS", Join(controllerInfo.supportedRaidLevels));
+  AddIfNotEmpty(properties_, "SUPPORTED_INTERFACES", Join(controllerInfo_.supportedInterfaces));
+  AddIfNotEmpty(properties_, "SUPPORTED_RAID_LEVELS", Join(controllerInfo_.supportedRaidLevels));
 }
 
 void Device::AddLogicalDisks(const std::vector<LogicalDrive>& drives) {
   for (const auto& drive : drives) {
-    const std::string index = std::to_string(resources.size());
-    resources.push_back({{"RESOURCE_TYPE", "LOGICAL_DISK"},
-                         {"INDEX", index},
-                         {"RAID_LEVEL", drive.raidLevel},
-                         {"NUM_PHYSICAL_DEVICES", std::to_string(drive.memberCount)},
-                         {"SIZE", SizeText(drive.sizeBytes)}});
+    const std::string index = std::to_string(resources_.size());
+    resources_.push_back({{"RESOURCE_TYPE", "LOGICAL_DISK"},
+                          {"INDEX", index},
+                          {"RAID_LEVEL", drive.raidLevel},
+                          {"NUM_PHYSICAL_DEVICES", std::to_string(drive.memberCount)},
+                          {"SIZE", SizeText(drive.sizeBytes)}});
   }
 }
 
 void Device::AddPhysicalDisks(std::vector<PhysicalDrive> drives) {
-  resources.reserve(resources.size() + drives.size());
+  resources_.reserve(resources_.size() + drives.size());
   for (auto& drive : drives) {
-    // Without an initialiser list, whose texts would be copied.
+    // An initialiser list would copy the texts.
     core::KeyValueList resource;
     resource.reserve(kPhysicalDiskEntries);
     resource.emplace_back("RESOURCE_TYPE", "PHYSICAL_DISK");
-    resource.emplace_back("INDEX", std::to_string(resources.size()));
+    resource.emplace_back("INDEX", std::to_string(resources_.size()));
     AddIfNotEmpty(resource, "MANUFACTURER", std::move(drive.manufacturer));
     AddIfNotEmpty(resource, "MODEL", std::move(drive.model));
     if (drive.sizeBytes != 0) resource.emplace_back("SIZE", SizeText(drive.sizeBytes));
     AddIfNotEmpty(resource, "SERIAL", std::move(drive.serial));
-    resources.push_back(std::move(resource));
+    resources_.push_back(std::move(resource));
   }
 }
 

@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "module/raid/family/device.h"
-#include "module/raid/storelib/storelib_sender.h"
+#include "module/raid/storelib/storelib_transport.h"
 
 namespace orvik::module::raid {
 
-/// What a controller tells about its battery backup unit.
+/// The state of a controller's battery backup unit.
 struct BatteryStatus {
   bool notPresent = false;
   bool packMissing = false;
@@ -23,7 +23,7 @@ struct EnclosureInfo {
 };
 
 /// A controller behind the vendor's library. Operations keep no state between calls and may run on several threads.
-/// Each returns 0, or 1 when a command of it failed, and writes its outputs on success only.
+/// Each returns kFailure when one of its commands fails, and writes its outputs on success only.
 class LsiDevice final : public Device {
  public:
   LsiDevice(std::uint32_t id, std::shared_ptr<LsiSender> librarySender);
@@ -40,7 +40,7 @@ class LsiDevice final : public Device {
   storage::Status GetEnclosures(std::vector<EnclosureInfo>& enclosures);
 
   storage::Status StartConsistencyCheck(std::uint8_t targetId, std::uint16_t sequenceNumber);
-  /// `percent` (0 to 100) is left as it is while the controller reports no progress.
+  /// `percent` (0 to 100) does not change while the controller reports no progress.
   storage::Status GetConsistencyCheckProgress(std::uint8_t targetId, bool& running, double& percent);
   storage::Status CancelConsistencyCheck(std::uint8_t targetId, std::uint16_t sequenceNumber);
   storage::Status GetConsistencyCheckResult(std::uint8_t targetId, std::uint16_t sequenceNumber, bool& consistent);
@@ -51,8 +51,8 @@ class LsiDevice final : public Device {
   storage::Status DescribePhysicalDrive(std::uint16_t deviceId, PhysicalDrive& drive) const;
   StorageDeviceEntry ReachDrive(const PhysicalDrive& drive) const;
 
-  std::shared_ptr<LsiSender> sender;
-  std::uint32_t controllerId;
+  std::shared_ptr<LsiSender> sender_;
+  std::uint32_t controllerId_;
 };
 
 }  // namespace orvik::module::raid

@@ -9,27 +9,27 @@ namespace orvik::module::raid {
 
 LsiDeviceManager::LsiDeviceManager() {
   try {
-    sender = std::make_shared<LsiSender>();
+    sender_ = std::make_shared<LsiSender>();
   } catch (const std::runtime_error&) {
     // A machine without the vendor's library has no controllers of this family.
   }
 }
 
 bool LsiDeviceManager::HasControllers() {
-  if (sender == nullptr) return false;
+  if (sender_ == nullptr) return false;
   LsiCommand list(lsi::code::kListControllers);
-  return sender->SendCommand(list) == 0 && list.Data().Get(lsi::controller_list::kCount) > 0;
+  return sender_->SendCommand(list) == 0 && list.Data().Get(lsi::controller_list::kCount) > 0;
 }
 
 void LsiDeviceManager::RefreshDevices() {
   devices_.clear();
-  if (sender == nullptr) return;
+  if (sender_ == nullptr) return;
   LsiCommand list(lsi::code::kListControllers);
-  if (sender->SendCommand(list) != 0) return;
+  if (sender_->SendCommand(list) != 0) return;
   using namespace lsi::controller_list;
   for (const utils::ByteView entry : list.Data().Entries(kEntries, list.Data().Get(kCount))) {
-    auto device = std::make_shared<LsiDevice>(entry.Get(kEntryControllerId), sender);
-    if (device->BuildProperties() == storage::status::kSuccess) devices_.push_back(std::move(device));
+    auto device = std::make_shared<LsiDevice>(entry.Get(kEntryControllerId), sender_);
+    if (device->BuildProperties().Ok()) devices_.push_back(std::move(device));
   }
 }
 

@@ -2,12 +2,12 @@
 
 #include <memory>
 
-#include "module/raid/family/device_manager.h"
-#include "module/raid/storelib/storelib_sender.h"
+#include "module/raid/family/device.h"
+#include "module/raid/storelib/storelib_transport.h"
 
 namespace orvik::module::raid {
 
-/// The controllers behind the vendor's library, which it keeps loaded. Without that library there are none.
+/// Finds the controllers behind the vendor's library and keeps that library loaded. Without it there are none.
 class LsiDeviceManager final : public DeviceManager {
  public:
   LsiDeviceManager();
@@ -16,7 +16,7 @@ class LsiDeviceManager final : public DeviceManager {
   void RefreshDevices() override;
 
  private:
-  std::shared_ptr<LsiSender> sender;
+  std::shared_ptr<LsiSender> sender_;
 };
 
 }  // namespace orvik::module::raid

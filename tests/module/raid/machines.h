@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/device_scanner.h"
-#include "module/raid/csmi/csmi_device.h"
+#include "module/raid/csmi/csmi_device_manager.h"
 #include "simulation/machine/current_machine.h"
 
 namespace orvik::testing {

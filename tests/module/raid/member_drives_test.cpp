@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <numeric>
 
 #include "module/storage/ata/ata_protocol.h"
@@ -103,6 +104,57 @@ TEST(MemberDrivesTest, EachHasItsOwnIdEveryTime) {
     }
   }
   EXPECT_EQ(device->GetId(), "a77f");
+}
+
+TEST(MemberDrivesTest, OutliveTheirDeviceWithoutReachingAnother) {
+  const auto onController = [](std::string_view deviceId, unsigned unit, std::vector<DriveDescription> drives) {
+    auto adapter = Controller(0, {}, deviceId, unit);
+    adapter.csmi->drives = std::move(drives);
+    CsmiRaidSetDescription set{.capacityMiB = 1000};
+    for (std::size_t i = 0; i < adapter.csmi->drives.size(); ++i) set.members.push_back({.drive = i});
+    adapter.csmi->raidSets.push_back(set);
+    return adapter;
+  };
+  auto other = Sata();
+  other.serial = "OTHER-A";
+  auto otherSas = Sas();
+  otherSas.serial = "OTHER-B";
+  const auto machine = Install({.adapters = {onController("a77f", 14, {Sata(), Sas(), Nvme("N1")}),
+                                             onController("2822", 23, {other, otherSas, Nvme("OTHER-C")})}});
+  auto adapters = EnumerateCsmiAdapters();
+  ASSERT_EQ(adapters.size(), 2U);
+  const std::string otherPath = adapters[1].interfacePath;
+  auto device = std::make_unique<CsmiDevice>(std::move(adapters[0]));
+  adapters.clear();
+  auto members = Members(*device);
+  ASSERT_EQ(members.size(), 3U);
+  device.reset();
+
+  // The next open file gets the value of the first handle that was closed.
+  HANDLE opened = INVALID_HANDLE_VALUE;
+  ASSERT_EQ(WinDeviceInterfaceScanner().OpenDevice(otherPath, opened), 0U);
+  const utils::UniqueHandle owner(opened);
+  const char* const kSerials[] = {"WD-A", "SAS-B", "N1"};
+  for (std::size_t i = 0; i < members.size(); ++i) {
+    ProtocolProperties properties;
+    ASSERT_EQ(members[i].protocolObject->GetProperties(&properties), 0U);
+    EXPECT_EQ(properties.serialNumber.substr(0, std::strlen(kSerials[i])), kSerials[i]);
+  }
+  EXPECT_EQ(machine->Ledger().OutstandingTotal(), 2U);
+  members.clear();
+  EXPECT_EQ(machine->Ledger().OutstandingTotal(), 1U);
+}
+
+TEST(MemberDrivesTest, AreSearchedForEvenAfterASearchFailed) {
+  const auto machine = InstallController({Sata(), Nvme("N1"), Nvme("N2")});
+  const auto device = OpenDevice();
+  // The first search ends at path 0; the second finds path 0 known and gets no answer from path 1.
+  machine->Faults().Add({.operation = "NVME_PASS_THROUGH", .call = 3, .effects = {.error = 1117}});
+  const auto members = Members(*device);
+  ASSERT_EQ(members.size(), 3U);
+  ProtocolProperties properties;
+  ASSERT_EQ(members[2].protocolObject->GetProperties(&properties), 0U);
+  EXPECT_EQ(properties.serialNumber.substr(0, 2), "N2");
 }
 
 TEST(MemberDrivesTest, ReadBackWhatWasWrittenOnEveryRoad) {

@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include "module/raid/csmi/csmi_bridges.h"
+#include "module/raid/family/pass_through.h"
 #include "module/storage/ata/ata_commands.h"
 #include "module/storage/ata/ata_pass_through_packet.h"
 #include "module/storage/nvme/nvme_commands.h"
@@ -131,7 +132,7 @@ TEST(CsmiBridgesTest, TakeTheRegistersOfTheStatusFis) {
   AtaCmd command;
   command.features = 0xAB00;
   const Bytes fis = {0x34, 0, 0x51, 0x04, 1, 2, 3, 0xE0, 4, 5, 6, 0, 7, 8, 0, 0, 0, 0, 0, 0};
-  raid::TakeRegisters(utils::ByteView(fis), command);
+  raid::TakeAllRegisters(utils::ByteView(fis), command);
   EXPECT_EQ(Describe(command), "51 f04 n0807 l0401.0502.0603 dE0 no data");
   EXPECT_EQ(command.features, 0xAB04);
 }

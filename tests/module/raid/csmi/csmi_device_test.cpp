@@ -65,11 +65,15 @@ TEST(CsmiDeviceTest, NamesTheFailedMemberOfADegradedSet) {
   EXPECT_EQ(text.substr(40, 3), " - ");
   EXPECT_EQ(text.substr(43, 8), "WD-ORVK1");
 
-  machine->Faults().Add(Patch("CC_CSMI_SAS_GET_RAID_CONFIG", 42, {200}));
-  drives.clear();
-  ASSERT_EQ(OpenDevice()->GetLogicalDrives(drives), 0U);
-  EXPECT_TRUE(drives.at(0).failedMembers.empty());
-  EXPECT_EQ(drives[0].state, LogicalDriveState::Degraded);
+  // Drive 2 is a free entry of the reply, drive 200 is outside it.
+  for (const std::uint8_t number : {std::uint8_t{2}, std::uint8_t{200}}) {
+    machine->Faults().Clear();
+    machine->Faults().Add(Patch("CC_CSMI_SAS_GET_RAID_CONFIG", 42, {number}));
+    drives.clear();
+    ASSERT_EQ(OpenDevice()->GetLogicalDrives(drives), 0U);
+    EXPECT_TRUE(drives.at(0).failedMembers.empty()) << int{number};
+    EXPECT_EQ(drives[0].state, LogicalDriveState::Degraded);
+  }
 }
 
 TEST(CsmiDeviceTest, StopsAtTheSetThatTheControllerDoesNotKnow) {
@@ -96,12 +100,13 @@ TEST(CsmiDeviceTest, IdentifiesWhatIsAttached) {
       SataDriveDescription{.model = "ST4000OV001", .serial = "Z1", .firmware = "SC60", .sectors = 7814037168});
   adapter.csmi->drives.emplace_back(
       NvmeDriveDescription{.model = "NVMe ORVK SSD", .serial = "N1", .firmware = "1", .sectors = 1000});
+  adapter.csmi->drives.push_back(SataDrive("behind an expander"));
   adapter.csmi->raidSets.push_back(
       {.members = {{.drive = 0}, {.drive = 3}, {.model = "an nVmE drive", .serial = "N2"}}});
   adapter.csmi->phys = {{.drive = 0},
                         {},
                         {.drive = 1},
-                        {.deviceType = SasDeviceType::EndDevice, .protocol = SasProtocol::Smp},
+                        {.drive = 4, .deviceType = SasDeviceType::EndDevice, .protocol = SasProtocol::Smp},
                         {.drive = 2}};
   Install({.adapters = {adapter}});
   std::vector<PhysicalDrive> drives;
@@ -124,6 +129,10 @@ TEST(CsmiDeviceTest, IdentifiesWhatIsAttached) {
   }
   EXPECT_EQ(drives[3].serial.substr(0, 2), "N1");
   EXPECT_EQ(drives[4].serial.substr(0, 2), "N2");
+
+  std::vector<StorageDeviceEntry> members;
+  ASSERT_EQ(OpenDevice()->GetStorageDevices(members), 0U);
+  EXPECT_EQ(members.size(), 4U);
 }
 
 TEST(CsmiDeviceTest, LeavesOutDrivesThatDoNotIdentify) {

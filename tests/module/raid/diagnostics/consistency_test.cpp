@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <optional>
 
-#include "module/raid/diagnostics/check_consistency.h"
 #include "module/raid/diagnostics/consistency_run.h"
+#include "module/raid/diagnostics/raid_tests.h"
 #include "tests/module/raid/diagnostics/run_recorder.h"
 #include "tests/module/raid/storelib/storelib_machines.h"
 #include "utils/dialogs/gui_dialog_input_interaction.h"

@@ -2,12 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "module/raid/diagnostics/battery_backup_unit_status.h"
-#include "module/raid/diagnostics/check_consistency.h"
-#include "module/raid/diagnostics/controller_status.h"
-#include "module/raid/diagnostics/enclosures_status.h"
-#include "module/raid/diagnostics/logical_drives_status.h"
-#include "module/raid/diagnostics/raid_status.h"
+#include "module/raid/diagnostics/raid_tests.h"
 #include "tests/module/raid/diagnostics/run_recorder.h"
 #include "tests/module/raid/machines.h"
 

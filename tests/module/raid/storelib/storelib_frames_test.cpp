@@ -6,7 +6,7 @@
 #include <bit>
 #include <map>
 
-#include "module/raid/storelib/storelib_frames.h"
+#include "module/raid/storelib/storelib_bridges.h"
 #include "module/storage/status.h"
 
 namespace orvik::module::raid {
