@@ -10,18 +10,12 @@ namespace orvik::host {
 namespace {
 
 struct GlobalOptions {
-  std::string machineFile;
+  std::optional<std::string> machineFile;
   std::string moduleFile;
-  std::string language;
-  bool json = false;
   bool hideSerials = false;
 };
 
-CLI::Option* AddTextOption(CLI::App& app, const char* name, std::string& value, const QString& description) {
-  return app.add_option(name, value, description.toStdString());
-}
-
-// Help in the user's language; the group comes first, because options take it when they are added.
+// The help text in the user's language. The group is set first, because options take it when they are added.
 void DescribeHelp(CLI::App& app) {
   app.option_defaults()->group(QCoreApplication::translate("orvik-diag", "Options").toStdString());
   app.set_help_flag("-h,--help", QCoreApplication::translate("orvik-diag", "Show this help").toStdString());
@@ -39,20 +33,23 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& options) {
   const std::string file = QCoreApplication::translate("orvik-diag", "FILE").toStdString();
   app.set_version_flag("--version", version.toStdString(),
                        QCoreApplication::translate("orvik-diag", "Show the version").toStdString());
-  AddTextOption(app, "--machine", options.machineFile,
-                QCoreApplication::translate("orvik-diag", "Diagnose the simulated machine that this file describes"))
+  app.add_option("--machine", options.machineFile,
+                 QCoreApplication::translate("orvik-diag", "Diagnose the simulated machine that this file describes")
+                     .toStdString())
       ->type_name(file);
-  AddTextOption(app, "--module", options.moduleFile,
-                QCoreApplication::translate("orvik-diag", "Use this module library instead of the installed one"))
+  app.add_option("--module", options.moduleFile,
+                 QCoreApplication::translate("orvik-diag", "Use this module library instead of the installed one")
+                     .toStdString())
       ->type_name(file);
-  app.add_flag("--json", options.json,
-               QCoreApplication::translate("orvik-diag", "Print one JSON document").toStdString());
   app.add_flag(
       "--hide-serials", options.hideSerials,
       QCoreApplication::translate("orvik-diag", "Show an X for each character of a serial number").toStdString());
-  AddTextOption(app, "--lang", options.language,
-                QCoreApplication::translate("orvik-diag", "Language of the texts, for example de"))
-      ->type_name(QCoreApplication::translate("orvik-diag", "CODE").toStdString());
+  // Without variables: `WantsJson` and `WantedLanguage` have read these two.
+  const std::string aboutJson = QCoreApplication::translate("orvik-diag", "Print one JSON document").toStdString();
+  app.add_flag("--json", aboutJson);
+  const std::string aboutLanguage =
+      QCoreApplication::translate("orvik-diag", "Language of the texts, for example de").toStdString();
+  app.add_option("--lang", aboutLanguage)->type_name(QCoreApplication::translate("orvik-diag", "CODE").toStdString());
 }
 
 void AddCommands(CLI::App& app, const std::vector<std::unique_ptr<Command>>& commands, Command*& chosen) {
@@ -70,7 +67,7 @@ void AddCommands(CLI::App& app, const std::vector<std::unique_ptr<Command>>& com
   app.require_subcommand(0, 1);
 }
 
-// The parser takes the arguments last one first.
+// The parser expects the last argument first.
 std::vector<std::string> Reversed(const QStringList& arguments) {
   std::vector<std::string> reversed;
   for (const QString& argument : arguments) reversed.push_back(argument.toStdString());
@@ -78,15 +75,15 @@ std::vector<std::string> Reversed(const QStringList& arguments) {
   return reversed;
 }
 
-UsageError Misused(const QString& problem) {
+Error UsageError(const QString& problem) {
   const QString help = QCoreApplication::translate("orvik-diag", "(see %1 --help)");
   return {QStringLiteral("%1 %2").arg(problem.simplified(), help.arg(QCoreApplication::applicationName()))};
 }
 
 }  // namespace
 
-ParsedCommandLine ParseCommandLine(const QStringList& arguments,
-                                   const std::vector<std::unique_ptr<Command>>& commands) {
+Result<ParsedCommandLine> ParseCommandLine(const QStringList& arguments,
+                                           const std::vector<std::unique_ptr<Command>>& commands) {
   GlobalOptions options;
   Request request;
   CLI::App app(QCoreApplication::translate("orvik-diag", "Finds RAID controllers and tests them.").toStdString(),
@@ -97,17 +94,18 @@ ParsedCommandLine ParseCommandLine(const QStringList& arguments,
   try {
     app.parse(Reversed(arguments));
   } catch (const CLI::CallForVersion& version) {
-    return Information{QString::fromStdString(version.what()) + u'\n'};
+    return ParsedCommandLine(Information{QString::fromStdString(version.what()) + u'\n'});
   } catch (const CLI::CallForHelp&) {
-    return Information{QString::fromStdString(app.help())};
+    return ParsedCommandLine(Information{QString::fromStdString(app.help())});
   } catch (const CLI::ParseError& error) {
-    return Misused(QString::fromStdString(error.what()));
+    return UsageError(QString::fromStdString(error.what()));
   }
-  if (request.command == nullptr) return Misused(QCoreApplication::translate("orvik-diag", "No command was given"));
-  if (app.count("--machine") > 0) request.machineFile = QString::fromStdString(options.machineFile);
+  if (request.command == nullptr)
+    return UsageError(QCoreApplication::translate("orvik-diag", "No command was given"));
+  if (options.machineFile) request.machineFile = QString::fromStdString(*options.machineFile);
   request.moduleFile = QString::fromStdString(options.moduleFile);
   request.hideSerials = options.hideSerials;
-  return request;
+  return ParsedCommandLine(request);
 }
 
 bool WantsJson(const QStringList& arguments) {

@@ -8,14 +8,15 @@
 #include <vector>
 
 #include "host/command/command.h"
+#include "host/result.h"
 
 namespace orvik::host {
 
 /// What the user asked for.
 struct Request {
-  Command* command = nullptr;  ///< among those that were offered to `ParseCommandLine`
+  Command* command = nullptr;  ///< one of those passed to `ParseCommandLine`
   std::optional<QString> machineFile;
-  QString moduleFile;  ///< empty: the installed one
+  QString moduleFile;  ///< empty: the installed module
   bool hideSerials = false;
 };
 
@@ -24,20 +25,16 @@ struct Information {
   QString text;
 };
 
-struct UsageError {
-  QString message;
-};
+using ParsedCommandLine = std::variant<Request, Information>;
 
-using ParsedCommandLine = std::variant<Request, Information, UsageError>;
+/// Parses the arguments, which do not include the program's name. The error says how they were misused.
+Result<ParsedCommandLine> ParseCommandLine(const QStringList& arguments,
+                                           const std::vector<std::unique_ptr<Command>>& commands);
 
-/// Reads the arguments (without the program's own name).
-ParsedCommandLine ParseCommandLine(const QStringList& arguments,
-                                   const std::vector<std::unique_ptr<Command>>& commands);
-
-/// Whether the output is to be JSON: known before parsing, because a usage error must be JSON too.
+/// Whether `--json` is among the arguments. Known before parsing, because usage errors are JSON too.
 bool WantsJson(const QStringList& arguments);
 
-/// The value of `--lang`, empty without one: known before parsing, because help has a language too.
+/// The value of `--lang`, empty without one. Known before parsing, because the help text is translated too.
 QString WantedLanguage(const QStringList& arguments);
 
 }  // namespace orvik::host

@@ -1,27 +1,41 @@
 #include "host/command/command.h"
 
 #include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
 
 #include "host/privacy/hide_serials.h"
+#include "host/text/format.h"
 
 namespace orvik::host {
+namespace {
+
+constexpr int kFormatVersion = 1;
+
+QString VersionText(const core::ModuleVersion& version) {
+  return QStringLiteral("%1.%2.%3%4")
+      .arg(QString::number(version.major), QString::number(version.minor), QString::number(version.patch),
+           RawText(version.suffix));
+}
+
+}  // namespace
+
+Report ReportOf(const Error& error) {
+  Report report;
+  report.errors += error.text;
+  report.exitCode = ExitCode::CouldNotTell;
+  return report;
+}
 
 std::vector<std::unique_ptr<Command>> AllCommands() {
   std::vector<std::unique_ptr<Command>> commands;
   commands.push_back(MakeScanCommand());
   commands.push_back(MakePresenceCommand());
-  commands.push_back(MakeTestsCommand());
-  commands.push_back(MakeTestCommand());
+  commands.push_back(MakeListTestsCommand());
+  commands.push_back(MakeRunTestsCommand());
   commands.push_back(MakeDrivesCommand());
   commands.push_back(MakeSelfTestCommand());
   return commands;
-}
-
-CommandResult CouldNotTell(const QString& error) {
-  CommandResult result;
-  result.errors += error;
-  result.exitCode = ExitCode::CouldNotTell;
-  return result;
 }
 
 CLI::Option* AddListOption(CLI::App& options, const char* name, std::vector<std::string>& values,
@@ -35,12 +49,43 @@ void AddDeviceOption(CLI::App& options, std::vector<std::string>& values) {
       ->type_name(QCoreApplication::translate("orvik-diag", "DEVICE").toStdString());
 }
 
-bool FindDevices(const CommandContext& context, std::vector<ListedDevice>& devices, QString& error) {
-  if (!ScanDevices(*context.module.GetDeviceScanner(), devices, error)) return false;
-  if (context.hideSerials) {
-    for (ListedDevice& device : devices) HideSerials(device.description);
+Result<std::vector<ListedDevice>> FindDevices(const CommandContext& context) {
+  Result<std::vector<ListedDevice>> devices = ScanDevices(*context.module.GetDeviceScanner());
+  if (devices.Ok() && context.hideSerials) {
+    for (ListedDevice& device : devices.Value()) HideSerials(device.description);
   }
-  return true;
+  return devices;
+}
+
+QString DeviceProblem(const ListedDevice& device, const QString& problem) {
+  return QCoreApplication::translate("orvik-diag", "Device %1: %2").arg(QString::number(device.index), problem);
+}
+
+QString DeviceProblem(const ListedDevice& device, const QString& part, const QString& problem) {
+  return QCoreApplication::translate("orvik-diag", "Device %1, %2: %3")
+      .arg(QString::number(device.index), part, problem);
+}
+
+QJsonObject ModuleJson(const core::Module& module) {
+  return {
+      {"shortName", RawText(module.GetShortName())},
+      {"name", RawText(module.GetName())},
+      {"version", VersionText(module.GetVersion())},
+  };
+}
+
+QByteArray JsonDocument(const QString& command, const QJsonValue& module, const Report& report) {
+  QJsonObject document = report.sections;
+  document["format"] = kFormatVersion;
+  document["program"] =
+      QJsonObject{{"name", QCoreApplication::applicationName()}, {"version", QCoreApplication::applicationVersion()}};
+  document["command"] = JsonTextOrNull(command);
+  document["module"] = module;
+  QJsonArray errors;
+  for (const QString& error : report.errors) errors.append(QJsonObject{{"message", error}});
+  document["errors"] = errors;
+  document["exitCode"] = static_cast<int>(report.exitCode);
+  return QJsonDocument(document).toJson();
 }
 
 }  // namespace orvik::host

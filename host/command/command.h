@@ -1,7 +1,9 @@
 #pragma once
 
 #include <CLI/App.hpp>
+#include <QByteArray>
 #include <QJsonObject>
+#include <QJsonValue>
 #include <QString>
 #include <QStringList>
 #include <memory>
@@ -9,31 +11,41 @@
 #include <vector>
 
 #include "core/module.h"
-#include "host/inventory/device_list.h"
-#include "host/run/exit_code.h"
-#include "host/terminal/palette.h"
+#include "host/inventory/inventory.h"
+#include "host/result.h"
+#include "host/run/run.h"
+#include "host/run/run_scheduler.h"
+#include "host/terminal/progress_bars.h"
 #include "host/text/translations.h"
+#include "host/text/words.h"
 
 namespace orvik::host {
+
+enum class OutputFormat { Text, Json };
 
 /// What a command works with.
 struct CommandContext {
   const core::Module& module;
   const Translations& translations;
   const core::AbortFlag& abortFlag;
+  OutputFormat format = OutputFormat::Text;
   Palette palette;
   bool hideSerials = false;
 };
 
-/// What a command found out, for people and for programs.
-struct CommandResult {
-  QString text;
-  QJsonObject sections;  ///< members of the JSON document
-  QStringList errors;
+/// What a command reports, which may be a part of what was asked for.
+struct Report {
+  QString text;          ///< standard output for people; empty with `OutputFormat::Json`
+  QJsonObject sections;  ///< members of the JSON document; empty with `OutputFormat::Text`
+  QStringList errors;    ///< one line each
   ExitCode exitCode = ExitCode::AllRight;
 };
 
-/// A subcommand. A new one is a file that defines one and its line in `AllCommands`.
+/// The report of a command that could not do its work.
+Report ReportOf(const Error& error);
+
+/// A subcommand: parses its options, calls the inventory, the runs or the drives, and reports. To add one, define it
+/// and add it to `AllCommands`.
 class Command {
  public:
   Command() = default;
@@ -44,30 +56,44 @@ class Command {
   virtual const char* Name() const = 0;
   virtual QString Description() const = 0;
   virtual void AddOptions(CLI::App& /*options*/) {}
-  virtual CommandResult Execute(const CommandContext& context) = 0;
+  virtual Result<Report> Execute(const CommandContext& context) = 0;
 };
 
 std::unique_ptr<Command> MakeScanCommand();
 std::unique_ptr<Command> MakePresenceCommand();
-std::unique_ptr<Command> MakeTestsCommand();
-std::unique_ptr<Command> MakeTestCommand();
+std::unique_ptr<Command> MakeListTestsCommand();
+std::unique_ptr<Command> MakeRunTestsCommand();
 std::unique_ptr<Command> MakeDrivesCommand();
 std::unique_ptr<Command> MakeSelfTestCommand();
 
 /// Every subcommand, in the order of the help text.
 std::vector<std::unique_ptr<Command>> AllCommands();
 
-/// The result of a command that could not do its work.
-CommandResult CouldNotTell(const QString& error);
-
-/// An option that takes one value each time it is given, so that it can stand before the subcommand's name.
+/// An option that takes one value each time it is given, so that it can precede the subcommand's name.
 CLI::Option* AddListOption(CLI::App& options, const char* name, std::vector<std::string>& values,
                            const QString& description);
 
 /// The option of the commands that work on chosen devices.
 void AddDeviceOption(CLI::App& options, std::vector<std::string>& values);
 
-/// `ScanDevices` with the module's scanner, serial numbers hidden where the user wants it.
-bool FindDevices(const CommandContext& context, std::vector<ListedDevice>& devices, QString& error);
+/// Scans with the module's scanner; hides serial numbers if the user wants that.
+Result<std::vector<ListedDevice>> FindDevices(const CommandContext& context);
+
+/// Executes the runs with progress bars and returns when all have ended.
+template <typename Kind>
+void CompleteWithBars(const std::vector<std::unique_ptr<Kind>>& runs, const CommandContext& context) {
+  ProgressBars bars;
+  RunScheduler(*context.module.GetDispatcher(), context.abortFlag, bars).Complete(runs);
+}
+
+/// "Device 0: problem" and "Device 0, part: problem", for a report's errors.
+QString DeviceProblem(const ListedDevice& device, const QString& problem);
+QString DeviceProblem(const ListedDevice& device, const QString& part, const QString& problem);
+
+/// The members of "module" in the JSON document.
+QJsonObject ModuleJson(const core::Module& module);
+
+/// The JSON document of a call. `command` is empty if none was recognised; `module` is null if none was loaded.
+QByteArray JsonDocument(const QString& command, const QJsonValue& module, const Report& report);
 
 }  // namespace orvik::host

@@ -3,17 +3,19 @@
 #include "host/command/command.h"
 #include "host/drives/drive_query.h"
 #include "host/privacy/hide_serials.h"
-#include "host/report/device_json.h"
-#include "host/report/drive_json.h"
-#include "host/report/drive_text.h"
-#include "host/report/drive_words.h"
-#include "host/run/run_plan.h"
-#include "host/run/run_scheduler.h"
-#include "host/terminal/progress_bars.h"
-#include "host/text/display_text.h"
+#include "host/report/device_report.h"
+#include "host/report/drive_report.h"
+#include "host/text/format.h"
+#include "host/text/words.h"
 
 namespace orvik::host {
 namespace {
+
+// Why the drive was not identified or not read to the end; empty if it was.
+QString ProblemOf(const Drive& drive) {
+  if (!drive.problem.isEmpty() || !drive.status || drive.IsIdentified()) return drive.problem;
+  return QCoreApplication::translate("orvik-diag", "No identification (%1)").arg(StatusText(*drive.status));
+}
 
 class DrivesCommand final : public Command {
  public:
@@ -25,49 +27,42 @@ class DrivesCommand final : public Command {
 
   void AddOptions(CLI::App& options) override { AddDeviceOption(options, deviceNames_); }
 
-  CommandResult Execute(const CommandContext& context) override {
-    std::vector<ListedDevice> devices;
-    QString error;
-    if (!FindDevices(context, devices, error)) return CouldNotTell(error);
-    const auto chosen = SelectDevices(devices, deviceNames_, error);
-    if (!chosen) return CouldNotTell(error);
+  Result<Report> Execute(const CommandContext& context) override {
+    const Result<std::vector<ListedDevice>> devices = FindDevices(context);
+    if (!devices.Ok()) return devices.Error();
+    const auto chosen = SelectDevices(devices.Value(), deviceNames_);
+    if (!chosen.Ok()) return chosen.Error();
 
-    const DriveQueryList queries = PlanQueries(*chosen, DriveQuery::Depth::Ask, context.abortFlag);
-    {
-      ProgressBars bars;
-      RunScheduler(*context.module.GetDispatcher(), context.abortFlag, bars).Complete(queries);
-    }
-    CommandResult result;
+    const DriveQueryList queries = PlanQueries(chosen.Value(), DriveQuery::Depth::Read, context.abortFlag);
+    CompleteWithBars(queries, context);
+
+    Report report;
     for (const auto& query : queries) {
       if (context.hideSerials) {
         for (Drive& drive : query->drives) HideSerials(drive);
       }
-      Complain(*query, result);
+      AddErrors(*query, report);
+      report.exitCode = Worse(report.exitCode, ExitCodeOf(query->outcome));
     }
-    result.sections["devices"] = DevicesJson(devices);
-    result.sections["drives"] = DrivesJson(queries);
-    result.text = DrivesText(queries, context.palette);
-    return result;
+    if (!report.errors.isEmpty()) report.exitCode = ExitCode::CouldNotTell;
+    if (context.format == OutputFormat::Json) {
+      report.sections["devices"] = DevicesJson(devices.Value());
+      report.sections["drives"] = DrivesJson(queries);
+    } else {
+      report.text = DrivesText(queries, context.palette);
+    }
+    return report;
   }
 
  private:
   // One line for everything that the user asked for and did not get.
-  static void Complain(const DriveQuery& query, CommandResult& result) {
-    const QString number = QString::number(query.device->index);
-    for (const QString& problem : ProblemsOf(query)) {
-      result.errors += QCoreApplication::translate("orvik-diag", "Device %1: %2").arg(number, problem);
-    }
+  static void AddErrors(const DriveQuery& query, Report& report) {
+    for (const QString& problem : ProblemsOf(query)) report.errors += DeviceProblem(*query.device, problem);
     for (const Drive& drive : query.drives) {
-      QString problem = drive.problem;
-      if (problem.isEmpty() && drive.status && !drive.IsIdentified()) {
-        problem = QCoreApplication::translate("orvik-diag", "No identification (%1)").arg(StatusText(*drive.status));
-      }
+      const QString problem = ProblemOf(drive);
       if (problem.isEmpty()) continue;
-      result.errors += QCoreApplication::translate("orvik-diag", "Device %1, %2: %3")
-                           .arg(number, DisplayText(drive.entry.id), problem);
+      report.errors += DeviceProblem(*query.device, DisplayText(drive.entry.id), problem);
     }
-    const bool isComplete = query.outcome.result == core::TestResult::Passed;
-    if (!isComplete || !result.errors.isEmpty()) result.exitCode = ExitCode::CouldNotTell;
   }
 
   std::vector<std::string> deviceNames_;

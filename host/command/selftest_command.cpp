@@ -2,17 +2,12 @@
 #include <string>
 
 #include "host/command/command.h"
-#include "host/drives/drive_choice.h"
 #include "host/drives/drive_query.h"
 #include "host/drives/self_test_run.h"
 #include "host/privacy/hide_serials.h"
-#include "host/report/device_json.h"
-#include "host/report/drive_json.h"
-#include "host/report/drive_text.h"
-#include "host/run/run_plan.h"
-#include "host/run/run_scheduler.h"
-#include "host/terminal/progress_bars.h"
-#include "host/text/display_text.h"
+#include "host/report/device_report.h"
+#include "host/report/drive_report.h"
+#include "host/text/format.h"
 
 namespace orvik::host {
 namespace {
@@ -43,33 +38,27 @@ class SelfTestCommand final : public Command {
     extended->excludes(abort);
   }
 
-  CommandResult Execute(const CommandContext& context) override {
-    std::vector<ListedDevice> devices;
-    QString error;
-    if (!FindDevices(context, devices, error)) return CouldNotTell(error);
-    const auto all = SelectDevices(devices, {}, error);
+  Result<Report> Execute(const CommandContext& context) override {
+    const Result<std::vector<ListedDevice>> devices = FindDevices(context);
+    if (!devices.Ok()) return devices.Error();
+    std::vector<const ListedDevice*> all;
+    for (const ListedDevice& device : devices.Value()) all.push_back(&device);
 
-    CommandResult result;
-    const DriveQueryList lists = PlanQueries(*all, DriveQuery::Depth::List, context.abortFlag);
-    {
-      ProgressBars bars;
-      RunScheduler(*context.module.GetDispatcher(), context.abortFlag, bars).Complete(lists);
-    }
+    Report report;
+    const DriveQueryList lists = PlanQueries(all, DriveQuery::Depth::List, context.abortFlag);
+    CompleteWithBars(lists, context);
     for (const auto& list : lists) {
-      for (const QString& problem : ProblemsOf(*list)) {
-        result.errors +=
-            QCoreApplication::translate("orvik-diag", "Device %1: %2").arg(list->device->index).arg(problem);
-      }
+      for (const QString& problem : ProblemsOf(*list)) report.errors += DeviceProblem(*list->device, problem);
     }
-    const std::optional<ChosenDrive> chosen = ChooseDrive(lists, driveName_, error);
-    if (!chosen) {
-      result.errors += error;
-      result.exitCode = ExitCode::CouldNotTell;
-      return result;
+    const Result<ChosenDrive> chosen = ChooseDrive(lists, driveName_);
+    if (!chosen.Ok()) {
+      report.errors += chosen.Error().text;
+      report.exitCode = ExitCode::CouldNotTell;
+      return report;
     }
-    result.sections["devices"] = DevicesJson(devices);
-    Test(*chosen, context, result);
-    return result;
+    if (context.format == OutputFormat::Json) report.sections["devices"] = DevicesJson(devices.Value());
+    Test(chosen.Value(), context, report);
+    return report;
   }
 
  private:
@@ -82,26 +71,22 @@ class SelfTestCommand final : public Command {
     return extended_ ? SelfTestRequest::Extended : SelfTestRequest::Short;
   }
 
-  void Test(const ChosenDrive& chosen, const CommandContext& context, CommandResult& result) const {
+  void Test(const ChosenDrive& chosen, const CommandContext& context, Report& report) const {
     std::vector<std::unique_ptr<SelfTestRun>> runs;
     runs.push_back(std::make_unique<SelfTestRun>(*chosen.device, *chosen.drive, Request(), context.abortFlag));
-    {
-      ProgressBars bars;
-      RunScheduler(*context.module.GetDispatcher(), context.abortFlag, bars).Complete(runs);
-    }
+    CompleteWithBars(runs, context);
+
     SelfTestRun& run = *runs.front();
     if (context.hideSerials) HideSerials(run.drive);
-    QString problem = run.outcome.error.isEmpty() ? run.report.problem : run.outcome.error;
-    if (run.outcome.result == core::TestResult::Invalid) {
-      problem = QCoreApplication::translate("orvik-diag", "The device has gone since the scan");
+    if (!run.outcome.Ok()) {
+      report.errors += DeviceProblem(*chosen.device, DisplayText(run.drive.entry.id), run.outcome.Error().text);
     }
-    if (!problem.isEmpty()) {
-      result.errors += QCoreApplication::translate("orvik-diag", "Device %1, %2: %3")
-                           .arg(QString::number(chosen.device->index), DisplayText(run.drive.entry.id), problem);
+    report.exitCode = ExitCodeOf(run.outcome);
+    if (context.format == OutputFormat::Json) {
+      report.sections["selfTest"] = SelfTestJson(run);
+    } else {
+      report.text = SelfTestText(run, context.palette);
     }
-    result.exitCode = ExitCodeOf(run.outcome);
-    result.sections["selfTest"] = SelfTestJson(run);
-    result.text = SelfTestText(run, context.palette);
   }
 
   std::string driveName_;

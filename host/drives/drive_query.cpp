@@ -4,10 +4,40 @@
 #include <exception>
 #include <utility>
 
-#include "host/drives/drive_questions.h"
-#include "host/report/drive_words.h"
+#include "host/text/format.h"
+#include "host/text/words.h"
 
 namespace orvik::host {
+namespace {
+
+using module::storage::Status;
+
+QString PlaceOf(const ChosenDrive& chosen) {
+  return QStringLiteral("%1:%2").arg(chosen.device->index).arg(chosen.drive->index);
+}
+
+template <typename Matches>
+std::vector<ChosenDrive> Matching(const DriveQueryList& lists, const Matches& matches) {
+  std::vector<ChosenDrive> found;
+  for (const auto& list : lists) {
+    for (const Drive& drive : list->drives) {
+      const ChosenDrive candidate{list->device, &drive};
+      if (matches(candidate)) found.push_back(candidate);
+    }
+  }
+  return found;
+}
+
+QStringList Names(const std::vector<ChosenDrive>& drives) {
+  QStringList names;
+  for (const ChosenDrive& each : drives) {
+    names += QStringLiteral("%1 (%2, %3)")
+                 .arg(PlaceOf(each), DisplayText(each.drive->entry.id), DisplayText(each.device->description.name));
+  }
+  return names;
+}
+
+}  // namespace
 
 DriveQuery::DriveQuery(const ListedDevice& onDevice, Depth withDepth, const core::AbortFlag& onAbort)
     : Run(onDevice, core::DispatchRequest::kSharedMode, nullptr), depth(withDepth), abortFlag(&onAbort) {}
@@ -17,11 +47,11 @@ QString DriveQuery::Name() const {
       .arg(QString::number(device->index), QCoreApplication::translate("orvik-diag", "drives"));
 }
 
-core::TestResult DriveQuery::Perform() {
+RunOutcome DriveQuery::Perform() {
   const std::shared_ptr<core::Device> locked = device->device.lock();
-  if (locked == nullptr) return core::TestResult::Invalid;
+  if (locked == nullptr) return DeviceGone();
   std::vector<module::raid::StorageDeviceEntry> entries;
-  status = static_cast<module::raid::RaidDevice&>(*locked).GetStorageDevices(entries);
+  status = Status(static_cast<module::raid::RaidDevice&>(*locked).GetStorageDevices(entries));
   for (module::raid::StorageDeviceEntry& entry : entries) {
     Drive drive;
     drive.index = static_cast<int>(drives.size());
@@ -32,27 +62,14 @@ core::TestResult DriveQuery::Perform() {
 
   for (Drive& drive : drives) {
     if (abortFlag->load() != 0) return core::TestResult::Aborted;
-    recorder.SetProgress(static_cast<std::uint8_t>(100 * static_cast<std::size_t>(drive.index) / drives.size()));
+    log.SetProgress(static_cast<std::uint8_t>(100 * static_cast<std::size_t>(drive.index) / drives.size()));
     try {
-      AskEverything(drive);
+      ReadDrive(drive);
     } catch (const std::exception& exception) {
-      drive.problem = QString::fromUtf8(exception.what()).simplified();
+      drive.problem = CauseOf(exception);
     }
   }
   return core::TestResult::Passed;
-}
-
-QStringList ProblemsOf(const DriveQuery& query) {
-  QStringList problems;
-  if (!query.outcome.error.isEmpty()) problems += query.outcome.error;
-  if (query.outcome.result == core::TestResult::Invalid) {
-    problems += QCoreApplication::translate("orvik-diag", "The device has gone since the scan");
-  }
-  if (query.status != module::storage::status::kSuccess) {
-    problems += QCoreApplication::translate("orvik-diag", "The controller did not tell all its drives (%1)")
-                    .arg(StatusText(query.status));
-  }
-  return problems;
 }
 
 DriveQueryList PlanQueries(const std::vector<const ListedDevice*>& devices, DriveQuery::Depth depth,
@@ -62,6 +79,31 @@ DriveQueryList PlanQueries(const std::vector<const ListedDevice*>& devices, Driv
     queries.push_back(std::make_unique<DriveQuery>(*device, depth, abortFlag));
   }
   return queries;
+}
+
+QStringList ProblemsOf(const DriveQuery& query) {
+  QStringList problems;
+  if (!query.outcome.Ok()) problems += query.outcome.Error().text;
+  if (!query.status.Ok()) {
+    problems += QCoreApplication::translate("orvik-diag", "The controller did not tell all its drives (%1)")
+                    .arg(StatusText(query.status));
+  }
+  return problems;
+}
+
+Result<ChosenDrive> ChooseDrive(const DriveQueryList& lists, const std::string& wanted) {
+  std::vector<ChosenDrive> found =
+      Matching(lists, [&wanted](const ChosenDrive& each) { return each.drive->entry.id == wanted; });
+  if (found.empty()) {
+    found = Matching(lists, [&wanted](const ChosenDrive& each) { return PlaceOf(each).toStdString() == wanted; });
+  }
+  if (found.size() == 1) return found.front();
+
+  const QString problem = found.empty()
+                              ? QCoreApplication::translate("orvik-diag", "No drive \"%1\"")
+                              : QCoreApplication::translate("orvik-diag", "Several drives are called \"%1\"");
+  const auto all = [](const ChosenDrive&) { return true; };
+  return Error{WithChoices(problem.arg(DisplayText(wanted)), Names(found.empty() ? Matching(lists, all) : found))};
 }
 
 }  // namespace orvik::host

@@ -4,31 +4,28 @@
 #include <optional>
 
 #include "host/drives/drive.h"
-#include "host/drives/drive_questions.h"
 #include "host/run/run.h"
 
 namespace orvik::host {
 
 enum class SelfTestRequest { Short, Extended, Abort };
 
-/// What came of a request.
+/// The latest readings of a self-test.
 struct SelfTestReport {
-  std::optional<module::storage::Status>
-      status;  ///< of the start, or of the abort that was asked for; none: not sent
+  /// Of starting it, or of the requested abort; nothing if no such command was sent.
+  std::optional<module::storage::Status> status;
   Reading<std::uint8_t> result;
-  std::optional<std::uint8_t> progress;  ///< percent, at the last look
+  std::optional<std::uint8_t> progress;  ///< percent
   std::optional<std::uint64_t> failingLba;
-  QString problem;  ///< one line; why there is no verdict
 };
 
-/// Starts a self-test on a drive and follows it to its end, or aborts the one under way. Once the abort flag is set
-/// it aborts the self-test that it has started. Its own result is `Passed` or `Failed`, or `Aborted` without a
-/// verdict.
+/// Starts a self-test on a drive and follows it to its end, or aborts the running one. Once the abort flag is set, it
+/// aborts the self-test that it has started. Ends as `Passed` or `Failed`, or with an error if there is no verdict.
 struct SelfTestRun final : Run {
   SelfTestRun(const ListedDevice& onDevice, Drive ofDrive, SelfTestRequest forKind, const core::AbortFlag& onAbort);
 
   QString Name() const override;
-  core::TestResult Perform() override;
+  RunOutcome Perform() override;
 
   Drive drive;
   SelfTestRequest kind;
@@ -36,11 +33,11 @@ struct SelfTestRun final : Run {
   SelfTestReport report;
 
  private:
-  core::TestResult Follow(const DriveVoice& voice);
-  core::TestResult Conclude(const DriveVoice& voice);
-  core::TestResult GiveUp(const QString& problem);
-  bool IsOver(const DriveVoice& voice);
-  bool WaitForNextLook() const;
+  RunOutcome Abort(const DriveAccess& access);
+  RunOutcome Follow(const DriveAccess& access);
+  RunOutcome Conclude(const DriveAccess& access);
+  bool IsOver(const DriveAccess& access);
+  bool WaitForNextPoll() const;
 };
 
 }  // namespace orvik::host

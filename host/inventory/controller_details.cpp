@@ -6,6 +6,10 @@
 #include <exception>
 #include <string_view>
 
+#include "host/result.h"
+#include "host/text/format.h"
+#include "host/text/words.h"
+
 namespace orvik::host {
 namespace {
 
@@ -13,6 +17,7 @@ using module::raid::ControllerInfo;
 using module::raid::LogicalDrive;
 using module::raid::PhysicalDrive;
 using module::raid::RaidDevice;
+using module::storage::Status;
 
 std::string ValueOf(const core::KeyValueList& list, std::string_view key) {
   const auto entry = std::find_if(list.begin(), list.end(), [key](const auto& pair) { return pair.first == key; });
@@ -32,7 +37,7 @@ std::int64_t Number(const std::string& text, std::int64_t fallback) {
   return number;
 }
 
-LogicalDisk FromResource(const core::KeyValueList& resource, int index) {
+LogicalDisk LogicalFromResource(const core::KeyValueList& resource, int index) {
   LogicalDisk disk;
   disk.index = static_cast<int>(Number(ValueOf(resource, "INDEX"), index));
   disk.raidLevel = ValueOf(resource, "RAID_LEVEL");
@@ -51,7 +56,7 @@ PhysicalDisk PhysicalFromResource(const core::KeyValueList& resource, int index)
   return disk;
 }
 
-// The description gives a disk its number and size text, the controller everything that may have changed since.
+// The index and the size text come from the description, everything that may have changed from the controller.
 void Fill(LogicalDisk& disk, const LogicalDrive& drive) {
   disk.name = drive.name;
   disk.raidLevel = drive.raidLevel;
@@ -69,65 +74,71 @@ void Fill(PhysicalDisk& disk, const PhysicalDrive& drive) {
   if (drive.sizeBytes != 0) disk.sizeBytes = drive.sizeBytes;
 }
 
-// `current` is null when the controller did not answer: then what the scan saw is all there is.
+// Without `current`, the result is what the scan saw.
 template <typename Disk, typename Drive>
-std::vector<Disk> Merge(const std::vector<core::KeyValueList>& resources, const std::vector<Drive>* current,
+std::vector<Disk> Merge(const std::vector<core::KeyValueList>& resources,
+                        const std::optional<std::vector<Drive>>& current,
                         Disk (*fromResource)(const core::KeyValueList&, int), int firstIndex) {
-  const std::size_t count = current == nullptr ? resources.size() : current->size();
+  const std::size_t count = current ? current->size() : resources.size();
   std::vector<Disk> disks;
   for (std::size_t i = 0; i < count; ++i) {
     const int index = firstIndex + static_cast<int>(i);
     disks.push_back(fromResource(i < resources.size() ? resources[i] : core::KeyValueList(), index));
-    if (current != nullptr) Fill(disks.back(), (*current)[i]);
+    if (current) Fill(disks.back(), (*current)[i]);
   }
   return disks;
 }
 
-// Puts one question to the controller; `problem`, with the cause, goes into `errors` when there is no answer.
-template <typename Question>
-bool Ask(const QString& problem, QStringList& errors, const Question& question) {
-  QString cause;
+// Calls one slot of the device. `problem` is the error text with a place for the cause.
+template <typename Record>
+Result<Record> Read(RaidDevice& device, std::uint32_t (RaidDevice::*slot)(Record&), const QString& problem) {
   try {
-    const std::uint32_t status = question();
-    if (status == 0) return true;
-    cause = QCoreApplication::translate("orvik-diag", "status %1").arg(status);
+    Record record;
+    const Status status((device.*slot)(record));
+    if (status.Ok()) return record;
+    return Error{problem.arg(StatusText(status))};
   } catch (const std::exception& exception) {
-    cause = QString::fromUtf8(exception.what()).simplified();
+    return Error{problem.arg(CauseOf(exception))};
   }
-  errors += problem.arg(cause);
-  return false;
+}
+
+// The value, or nothing and a line more in `errors`.
+template <typename Record>
+std::optional<Record> ValueOrNote(Result<Record> result, QStringList& errors) {
+  if (result.Ok()) return std::move(result).Value();
+  errors += result.Error().text;
+  return std::nullopt;
 }
 
 }  // namespace
 
 ControllerDetails ReadControllerDetails(const ListedDevice& listed) {
   ControllerDetails details;
-  std::vector<LogicalDrive> logicalDrives;
-  std::vector<PhysicalDrive> physicalDrives;
-  bool hasLogical = false;
-  bool hasPhysical = false;
+  std::optional<std::vector<LogicalDrive>> logicalDrives;
+  std::optional<std::vector<PhysicalDrive>> physicalDrives;
 
   if (const std::shared_ptr<core::Device> device = listed.device.lock()) {
     auto& raid = static_cast<RaidDevice&>(*device);
-    ControllerInfo info;
-    if (Ask(QCoreApplication::translate("orvik-diag", "The controller did not tell its properties (%1)"),
-            details.errors, [&] { return raid.GetControllerInfo(info); })) {
-      details.info = info;
-    }
-    hasLogical = Ask(QCoreApplication::translate("orvik-diag", "The controller did not tell its logical disks (%1)"),
-                     details.errors, [&] { return raid.GetLogicalDrives(logicalDrives); });
-    hasPhysical =
-        Ask(QCoreApplication::translate("orvik-diag", "The controller did not tell its physical disks (%1)"),
-            details.errors, [&] { return raid.GetPhysicalDrives(physicalDrives); });
+    details.info = ValueOrNote(
+        Read(raid, &RaidDevice::GetControllerInfo,
+             QCoreApplication::translate("orvik-diag", "The controller did not tell its properties (%1)")),
+        details.errors);
+    logicalDrives = ValueOrNote(
+        Read(raid, &RaidDevice::GetLogicalDrives,
+             QCoreApplication::translate("orvik-diag", "The controller did not tell its logical disks (%1)")),
+        details.errors);
+    physicalDrives = ValueOrNote(
+        Read(raid, &RaidDevice::GetPhysicalDrives,
+             QCoreApplication::translate("orvik-diag", "The controller did not tell its physical disks (%1)")),
+        details.errors);
   } else {
-    details.errors += QCoreApplication::translate("orvik-diag", "The device has gone since the scan");
+    details.errors += DeviceGone().text;
   }
 
-  details.logicalDisks = Merge(ResourcesOfType(listed.description, "LOGICAL_DISK"),
-                               hasLogical ? &logicalDrives : nullptr, FromResource, 0);
-  details.physicalDisks =
-      Merge(ResourcesOfType(listed.description, "PHYSICAL_DISK"), hasPhysical ? &physicalDrives : nullptr,
-            PhysicalFromResource, static_cast<int>(details.logicalDisks.size()));
+  details.logicalDisks =
+      Merge(ResourcesOfType(listed.description, "LOGICAL_DISK"), logicalDrives, LogicalFromResource, 0);
+  details.physicalDisks = Merge(ResourcesOfType(listed.description, "PHYSICAL_DISK"), physicalDrives,
+                                PhysicalFromResource, static_cast<int>(details.logicalDisks.size()));
   return details;
 }
 

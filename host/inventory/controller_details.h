@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "host/inventory/device_list.h"
+#include "host/inventory/inventory.h"
 #include "module/raid/device_records.h"
 
 namespace orvik::host {
 
-/// A logical disk. What only the controller itself can tell is absent when it did not answer.
+/// A logical disk. Fields that only the controller can supply are absent or empty if reading it failed.
 struct LogicalDisk {
   int index = 0;
   std::string name;
@@ -19,11 +19,11 @@ struct LogicalDisk {
   std::optional<module::raid::LogicalDriveState> state;
   std::int64_t memberCount = 0;
   std::optional<std::uint64_t> sizeBytes;
-  std::string size;  ///< the module's own wording
+  std::string size;  ///< as formatted by the module
   std::vector<std::string> failedMembers;
 };
 
-/// A physical disk, under the same rule.
+/// A physical disk; the same fields may be absent.
 struct PhysicalDisk {
   int index = 0;
   std::optional<module::raid::DriveProtocol> protocol;
@@ -38,10 +38,10 @@ struct ControllerDetails {
   std::optional<module::raid::ControllerInfo> info;
   std::vector<LogicalDisk> logicalDisks;
   std::vector<PhysicalDisk> physicalDisks;
-  QStringList errors;  ///< one line per question that the controller did not answer
+  QStringList errors;  ///< one line per list or record that could not be read
 };
 
-/// Asks the controller for its state now. Where it does not answer, the scan's description stands in.
+/// Reads the current state from the controller, and falls back to the scan's description for what it fails to read.
 ControllerDetails ReadControllerDetails(const ListedDevice& listed);
 
 }  // namespace orvik::host

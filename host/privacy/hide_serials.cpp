@@ -4,8 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "host/text/message_text.h"
-
 namespace orvik::host {
 namespace {
 
@@ -16,7 +14,7 @@ void Hide(std::string& serial) {
   serial.assign(serial.size(), 'X');
 }
 
-// In "model - serial" the serial number, padding and all.
+// The serial number of "model - serial", including its padding.
 void HideLastPart(std::string& text) {
   const std::size_t place = text.rfind(kBeforeSerial);
   if (place == std::string::npos) return;
@@ -36,7 +34,7 @@ std::string WithoutBlanks(std::string text) {
   return text;
 }
 
-// Device identifiers hold the controller's serial number with its blanks taken out.
+// Device identifiers contain the controller's serial number without its blanks.
 void HideInIdentifier(std::string& identifier, const std::string& serial) {
   HideWithin(identifier, serial);
   HideWithin(identifier, WithoutBlanks(serial));
@@ -81,7 +79,7 @@ void HideSerials(std::vector<core::TestMessage>& messages) {
 
 void HideSerials(Drive& drive) {
   Hide(drive.properties.serialNumber);
-  Hide(drive.properties.labelText);  // names the single piece, as a serial number does
+  Hide(drive.properties.labelText);  // identifies the individual drive, as a serial number does
 }
 
 }  // namespace orvik::host

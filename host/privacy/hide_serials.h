@@ -8,8 +8,8 @@
 
 namespace orvik::host {
 
-/// Each puts an X in place of every character of the serial numbers in a record, wherever they stand in it, so that
-/// whatever is made of the record may be passed on.
+/// Each masks every character of the serial numbers in a record with X, wherever they occur, so that output made from
+/// the record can be shared.
 void HideSerials(core::DeviceDescription& description);
 void HideSerials(ControllerDetails& details);
 void HideSerials(std::vector<core::TestMessage>& messages);

@@ -8,16 +8,15 @@
 #include <chrono>
 #include <utility>
 
-#include "host/display/display.h"
 #include "host/terminal/terminal.h"
-#include "host/text/display_text.h"
+#include "host/text/format.h"
 
 namespace orvik::host {
 namespace {
 
 constexpr std::chrono::milliseconds kTerminalInterval(100);
 
-// The dialog's object names, which the host's style sheet knows as well.
+// The dialog's object names, which style sheets use too.
 constexpr QLatin1String kTitleName("generic_input_header_label");
 constexpr QLatin1String kTextName("generic_input_instruction_label");
 constexpr QLatin1String kButtonPrefix("generic_input_button_");
@@ -27,14 +26,20 @@ QString LabelText(const QDialog& dialog, QLatin1String name) {
   return label == nullptr ? QString() : label->text();
 }
 
-std::optional<AnswerButton> AnswerOf(const QAbstractButton& button) {
+std::optional<QuestionAnswer> AnswerOf(const QAbstractButton& button) {
   const QString name = button.objectName();
-  return name.startsWith(kButtonPrefix) ? ButtonOf(name.mid(kButtonPrefix.size())) : std::nullopt;
+  return name.startsWith(kButtonPrefix) ? AnswerNamed(name.mid(kButtonPrefix.size())) : std::nullopt;
+}
+
+// Whether the windows of this program appear on a screen.
+bool HasDisplay() {
+  const QString platform = QGuiApplication::platformName();
+  return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
 }
 
 }  // namespace
 
-QuestionDesk::QuestionDesk(std::optional<AnswerButton> beforehand, std::function<void(bool)> onTerminal)
+QuestionDesk::QuestionDesk(std::optional<QuestionAnswer> beforehand, std::function<void(bool)> onTerminal)
     : beforehand_(beforehand), onTerminal_(std::move(onTerminal)) {
   connect(&terminalTimer_, &QTimer::timeout, this, [this] { ReadTerminal(); });
   QCoreApplication::instance()->installEventFilter(this);
@@ -58,7 +63,7 @@ std::optional<AskedQuestion> QuestionDesk::Ask(core::InputInteraction& question)
 }
 
 bool QuestionDesk::eventFilter(QObject* watched, QEvent* event) {
-  // A dialog may be shown more than once before it stays.
+  // A dialog may be shown more than once before it runs.
   if (event->type() == QEvent::Show && watched != dialog_) {
     auto* const dialog = qobject_cast<QDialog*>(watched);
     if (dialog != nullptr && dialog->isWindow()) Take(*dialog);
@@ -89,7 +94,7 @@ void QuestionDesk::Serve() {
   if (beforehand_) {
     Press(*beforehand_);
   } else if (HasDisplay()) {
-    return;  // whoever sits before it answers
+    return;  // the user answers in the window
   } else if (IsInputTerminal() && IsTerminal(Stream::Error)) {
     AskOnTerminal();
   } else {
@@ -97,7 +102,7 @@ void QuestionDesk::Serve() {
   }
 }
 
-void QuestionDesk::Press(AnswerButton wanted) {
+void QuestionDesk::Press(QuestionAnswer wanted) {
   for (QAbstractButton* const button : Buttons()) {
     if (AnswerOf(*button) == wanted) {
       button->click();
@@ -110,7 +115,7 @@ void QuestionDesk::Press(AnswerButton wanted) {
 void QuestionDesk::AskOnTerminal() {
   onTerminal_(true);
   QStringList words;
-  for (const QAbstractButton* const button : Buttons()) words += QLatin1String(WordOf(*AnswerOf(*button)));
+  for (const QAbstractButton* const button : Buttons()) words += QLatin1String(NameOf(*AnswerOf(*button)));
   const QString question =
       QStringLiteral("%1\n%2\n[%3] ")
           .arg(LabelText(*dialog_, kTitleName), LabelText(*dialog_, kTextName), words.join(QLatin1Char('/')));
@@ -124,7 +129,7 @@ void QuestionDesk::ReadTerminal() {
   if (input.state == InputLine::State::Ended) {
     dialog_->close();
   } else if (input.state == InputLine::State::Line) {
-    const std::optional<AnswerButton> answer = ButtonOf(input.text.trimmed());
+    const std::optional<QuestionAnswer> answer = AnswerNamed(input.text.trimmed());
     bool known = false;
     for (const QAbstractButton* const button : Buttons()) known = known || (answer && AnswerOf(*button) == answer);
     if (known) {

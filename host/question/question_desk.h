@@ -9,43 +9,42 @@
 #include <optional>
 
 #include "core/input_interaction.h"
-#include "host/question/asked_question.h"
+#include "host/run/run.h"
 
 class QAbstractButton;
 class QDialog;
 
 namespace orvik::host {
 
-/// Sees to it that the questions of tests are answered, whatever there is to answer them: a button named beforehand,
-/// a person before a display, a person at a terminal. Where there is none of these a question is closed at once.
-/// Lives on the GUI thread, where the module shows its dialog.
-class QuestionDesk final : public QObject {
+/// Gets the questions of tests answered: by a button chosen beforehand, by the user in the question's window or by
+/// the user at the terminal. Without any of these it closes the question at once. Lives on the GUI thread, where the
+/// module shows its dialog.
+class QuestionDesk final : public QObject, public QuestionPresenter {
  public:
-  /// `beforehand`: the button to press on every question. `onTerminal` hears when a question takes over standard
-  /// error and when it gives it back.
-  QuestionDesk(std::optional<AnswerButton> beforehand, std::function<void(bool)> onTerminal);
+  /// `beforehand` is the button to press on every question. `onTerminal` is called with true when a question starts
+  /// to use standard error, and with false afterwards.
+  QuestionDesk(std::optional<QuestionAnswer> beforehand, std::function<void(bool)> onTerminal);
   ~QuestionDesk() override;
 
-  /// Puts a question, one at a time, and returns when it was answered or closed. Any thread but the GUI thread.
-  /// Nothing when no question came up.
-  std::optional<AskedQuestion> Ask(core::InputInteraction& question);
+  /// One question at a time.
+  std::optional<AskedQuestion> Ask(core::InputInteraction& question) override;
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void Take(QDialog& dialog);
   void Serve();
-  void Press(AnswerButton wanted);
+  void Press(QuestionAnswer wanted);
   void AskOnTerminal();
   void ReadTerminal();
   void LeaveTerminal();
   QList<QAbstractButton*> Buttons() const;
 
-  const std::optional<AnswerButton> beforehand_;
+  const std::optional<QuestionAnswer> beforehand_;
   const std::function<void(bool)> onTerminal_;
   QPointer<QDialog> dialog_;
   QTimer terminalTimer_;
-  std::mutex turn_;   // held while a question is put
+  std::mutex turn_;   // held while a question is asked
   std::mutex mutex_;  // guards what follows
   bool expecting_ = false;
   std::optional<AskedQuestion> asked_;

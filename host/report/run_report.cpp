@@ -2,20 +2,85 @@
 
 #include <QCoreApplication>
 #include <QStringList>
+#include <algorithm>
 #include <vector>
 
-#include "host/report/device_text.h"
-#include "host/report/words.h"
-#include "host/text/display_text.h"
-#include "host/text/message_text.h"
+#include "host/report/device_report.h"
+#include "host/text/format.h"
+#include "host/text/translations.h"
 
 namespace orvik::host {
 namespace {
 
+std::vector<int> DevicesOf(const ListedTest& test, const std::vector<ListedDevice>& devices) {
+  std::vector<int> indexes;
+  for (const ListedDevice& device : devices) {
+    if (AppliesTo(test, device)) indexes.push_back(device.index);
+  }
+  return indexes;
+}
+
+QString DeviceList(const std::vector<int>& indexes) {
+  QStringList texts;
+  for (const int index : indexes) texts += QString::number(index);
+  return texts.isEmpty() ? QStringLiteral("-") : texts.join(QStringLiteral(", "));
+}
+
+// Columns as wide as their widest cell, except that the last one is not padded.
+QString Table(const std::vector<QStringList>& rows, const Palette& palette) {
+  QList<qsizetype> widths(rows.front().size(), 0);
+  for (const QStringList& row : rows) {
+    for (qsizetype i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
+  }
+  QString table;
+  for (const QStringList& row : rows) {
+    QString line;
+    for (qsizetype i = 0; i + 1 < row.size(); ++i) line += row[i].leftJustified(widths[i] + 2);
+    line += row.back();
+    table += palette.Paint(&row == &rows.front() ? Colour::Bold : Colour::Plain, line) + u'\n';
+  }
+  return table;
+}
+
+Word ResultWord(core::TestResult result) {
+  switch (result) {
+    case core::TestResult::Passed:
+      return {"passed", QCoreApplication::translate("orvik-diag", "passed"), Colour::Green};
+    case core::TestResult::Warning:
+      return {"warning", QCoreApplication::translate("orvik-diag", "warning"), Colour::Yellow};
+    case core::TestResult::Failed:
+      return {"failed", QCoreApplication::translate("orvik-diag", "failed"), Colour::Red};
+    case core::TestResult::NotApplicable:
+      return {"not-applicable", QCoreApplication::translate("orvik-diag", "not applicable"), Colour::Cyan};
+    case core::TestResult::Aborted:
+      return {"aborted", QCoreApplication::translate("orvik-diag", "aborted"), Colour::Red};
+    case core::TestResult::Invalid:
+      return {"invalid", QCoreApplication::translate("orvik-diag", "device gone"), Colour::Red};
+  }
+  return {"unknown", QCoreApplication::translate("orvik-diag", "unknown"), Colour::Red};
+}
+
+Word OutcomeWord(const RunOutcome& outcome) {
+  if (!outcome.Ok()) return {"error", QCoreApplication::translate("orvik-diag", "error"), Colour::Red};
+  return ResultWord(outcome.Value());
+}
+
+Word TypeWord(core::MessageType type) {
+  switch (type) {
+    case core::MessageType::Info: return {"info", QCoreApplication::translate("orvik-diag", "info"), Colour::Plain};
+    case core::MessageType::Warning:
+      return {"warning", QCoreApplication::translate("orvik-diag", "warning"), Colour::Yellow};
+    case core::MessageType::Error: return {"error", QCoreApplication::translate("orvik-diag", "error"), Colour::Red};
+    case core::MessageType::Notice:
+      return {"notice", QCoreApplication::translate("orvik-diag", "notice"), Colour::Cyan};
+  }
+  return {"unknown", QCoreApplication::translate("orvik-diag", "unknown"), Colour::Plain};
+}
+
 QJsonObject MessageJson(const core::TestMessage& message) {
   const MessageParts parts = SplitMessage(message.text);
   return {
-      {"type", WordFor(message.type).stable},
+      {"type", TypeWord(message.type).stable},
       {"key", RawText(parts.key)},
       {"value", parts.separator.empty() ? QJsonValue(QJsonValue::Null) : QJsonValue(RawText(parts.value))},
       {"text", RawText(message.text)},
@@ -28,32 +93,32 @@ QJsonObject QuestionJson(const AskedQuestion& question) {
       {"title", question.title},
       {"text", question.text},
       {"answer",
-       question.answer ? QJsonValue(QLatin1String(WordOf(*question.answer))) : QJsonValue(QJsonValue::Null)},
+       question.answer ? QJsonValue(QLatin1String(NameOf(*question.answer))) : QJsonValue(QJsonValue::Null)},
   };
 }
 
 QString QuestionText(const AskedQuestion& question) {
-  const QString answer = question.answer ? QString(QLatin1String(WordOf(*question.answer)))
+  const QString answer = question.answer ? QString(QLatin1String(NameOf(*question.answer)))
                                          : QCoreApplication::translate("orvik-diag", "not answered");
   return QCoreApplication::translate("orvik-diag", "question: %1 %2 (%3)").arg(question.title, question.text, answer);
 }
 
-QJsonValue NumberOf(const std::optional<core::TestResult>& result) {
-  return result ? QJsonValue(static_cast<int>(*result)) : QJsonValue(QJsonValue::Null);
+QJsonValue NumberOf(const RunOutcome& outcome) {
+  return outcome.Ok() ? QJsonValue(static_cast<int>(outcome.Value())) : QJsonValue(QJsonValue::Null);
 }
 
 QJsonObject RunJson(const TestRun& run) {
   const core::TestDescriptor& descriptor = run.test->test->Descriptor();
   QJsonArray messages;
-  for (const core::TestMessage& message : run.recorder.Messages()) messages.append(MessageJson(message));
+  for (const core::TestMessage& message : run.log.Messages()) messages.append(MessageJson(message));
   QJsonArray questions;
-  for (const AskedQuestion& question : run.recorder.Questions()) questions.append(QuestionJson(question));
-  const std::optional<int> progress = run.recorder.Progress();
+  for (const AskedQuestion& question : run.log.Questions()) questions.append(QuestionJson(question));
+  const std::optional<int> progress = run.log.Progress();
   return {
       {"device", QJsonObject{{"index", run.device->index}, {"id", RawText(run.device->description.id)}}},
       {"test", QJsonObject{{"id", run.test->id}, {"nameKey", RawText(descriptor.nameKey)}, {"name", run.test->name}}},
-      {"result", QJsonObject{{"word", WordFor(run.outcome).stable}, {"number", NumberOf(run.outcome.result)}}},
-      {"error", run.outcome.error.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(run.outcome.error)},
+      {"result", QJsonObject{{"word", OutcomeWord(run.outcome).stable}, {"number", NumberOf(run.outcome)}}},
+      {"error", JsonTextOrNull(run.outcome.Error().text)},
       {"progress", progress ? QJsonValue(*progress) : QJsonValue(QJsonValue::Null)},
       {"messages", messages},
       {"questions", questions},
@@ -65,19 +130,19 @@ struct Count {
   int runs = 0;
 };
 
-// One entry for every way a run can end that a reader should know of, in order of interest.
+// One entry for each way a run can end, the most interesting first.
 std::vector<Count> CountOutcomes(const TestRunList& runs) {
   using core::TestResult;
   std::vector<Count> counts;
   for (const TestResult result : {TestResult::Passed, TestResult::Warning, TestResult::Failed,
                                   TestResult::NotApplicable, TestResult::Aborted, TestResult::Invalid}) {
-    counts.push_back({WordFor(RunOutcome{result, {}})});
+    counts.push_back({ResultWord(result)});
   }
-  counts.push_back({WordFor(RunOutcome{})});
-  counts.push_back({WordFor(RunOutcome{static_cast<TestResult>(0xFF), {}})});
+  counts.push_back({OutcomeWord(Error())});
+  counts.push_back({ResultWord(static_cast<TestResult>(0xFF))});
 
   for (const auto& run : runs) {
-    const QLatin1String word(WordFor(run->outcome).stable);
+    const QLatin1String word(OutcomeWord(run->outcome).stable);
     for (Count& count : counts) {
       if (word == QLatin1String(count.word.stable)) ++count.runs;
     }
@@ -87,19 +152,17 @@ std::vector<Count> CountOutcomes(const TestRunList& runs) {
 
 QString RunText(const TestRun& run, const Palette& palette) {
   QString text = QStringLiteral("    %1\n").arg(palette.Paint(Colour::Bold, run.test->name));
-  for (const AskedQuestion& question : run.recorder.Questions()) {
+  for (const AskedQuestion& question : run.log.Questions()) {
     text += QStringLiteral("      %1\n").arg(QuestionText(question));
   }
-  for (const core::TestMessage& message : run.recorder.Messages()) {
-    const Word type = WordFor(message.type);
+  for (const core::TestMessage& message : run.log.Messages()) {
     text +=
-        QStringLiteral("      %1: %2\n").arg(palette.Paint(type.colour, type.shown), TranslateMessage(message.text));
+        QStringLiteral("      %1: %2\n").arg(palette.Paint(TypeWord(message.type)), TranslateMessage(message.text));
   }
-  if (!run.outcome.error.isEmpty()) text += QStringLiteral("      %1\n").arg(run.outcome.error);
-  const Word result = WordFor(run.outcome);
+  if (!run.outcome.Ok()) text += QStringLiteral("      %1\n").arg(run.outcome.Error().text);
   return text + QStringLiteral("      %1\n")
                     .arg(QCoreApplication::translate("orvik-diag", "Result: %1")
-                             .arg(palette.Paint(result.colour, result.shown)));
+                             .arg(palette.Paint(OutcomeWord(run.outcome))));
 }
 
 QString SummaryText(const TestRunList& runs, const Palette& palette) {
@@ -116,6 +179,52 @@ QString SummaryText(const TestRunList& runs, const Palette& palette) {
 }
 
 }  // namespace
+
+QJsonArray TestsJson(const std::vector<ListedTest>& tests, const std::vector<ListedDevice>& devices) {
+  QJsonArray array;
+  for (const ListedTest& test : tests) {
+    const core::TestDescriptor& descriptor = test.test->Descriptor();
+    QJsonArray indexes;
+    for (const int index : DevicesOf(test, devices)) indexes.append(index);
+    array.append(QJsonObject{
+        {"id", test.id},
+        {"nameKey", RawText(descriptor.nameKey)},
+        {"name", test.name},
+        {"tooltipKey", RawText(descriptor.tooltipKey)},
+        {"tooltip", TranslateKey(descriptor.tooltipKey)},
+        {"groupKey", RawText(descriptor.groupKey)},
+        {"group", TranslateKey(descriptor.groupKey)},
+        {"exclusive", test.test->IsExclusive()},
+        {"estimatedDuration", static_cast<qint64>(test.test->GetEstimatedDuration())},
+        {"devices", indexes},
+    });
+  }
+  return array;
+}
+
+QString TestsText(const std::vector<ListedTest>& tests, const std::vector<ListedDevice>& devices,
+                  const Palette& palette) {
+  std::vector<QStringList> rows{{
+      QCoreApplication::translate("orvik-diag", "Id"),
+      QCoreApplication::translate("orvik-diag", "Name"),
+      QCoreApplication::translate("orvik-diag", "Group"),
+      QCoreApplication::translate("orvik-diag", "Exclusive"),
+      QCoreApplication::translate("orvik-diag", "Duration"),
+      QCoreApplication::translate("orvik-diag", "Devices"),
+  }};
+  for (const ListedTest& test : tests) {
+    rows.push_back({
+        QString::number(test.id),
+        test.name,
+        TranslateKey(test.test->Descriptor().groupKey),
+        test.test->IsExclusive() ? QCoreApplication::translate("orvik-diag", "yes")
+                                 : QCoreApplication::translate("orvik-diag", "no"),
+        QString::number(test.test->GetEstimatedDuration()),
+        DeviceList(DevicesOf(test, devices)),
+    });
+  }
+  return Table(rows, palette);
+}
 
 QJsonArray RunsJson(const TestRunList& runs) {
   QJsonArray array;

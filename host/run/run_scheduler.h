@@ -9,11 +9,10 @@
 #include "core/dispatcher.h"
 #include "core/run_arguments.h"
 #include "host/run/run.h"
-#include "host/run/run_task.h"
 
 namespace orvik::host {
 
-/// Hears of runs as they come and go, on the main thread.
+/// Receives the start and end of each run, on the main thread.
 class RunObserver {
  public:
   RunObserver() = default;
@@ -25,15 +24,15 @@ class RunObserver {
   virtual void OnRunEnded(const Run& run) = 0;
 };
 
-/// Brings planned runs to their end on the module's workers: those of one device one after the other, those of
-/// different devices side by side where the module's reservations allow it. Lives on the main thread, which alone
-/// uses the reservations and whose event loop goes on while the runs are under way.
+/// Executes planned runs on the module's workers: runs of one device in sequence, runs of different devices in
+/// parallel where the module's reservations allow it. Lives on the main thread, the only one that uses the
+/// reservations, and keeps its event loop running meanwhile.
 class RunScheduler final : public QObject {
  public:
   RunScheduler(core::DiagnosticDispatcher& dispatcher, const core::AbortFlag& abortFlag, RunObserver& observer);
   ~RunScheduler() override;
 
-  /// Returns when every run has ended. Once the abort flag is set, runs that have not begun end as aborted.
+  /// Returns when every run has ended. Once the abort flag is set, runs that have not started end as aborted.
   template <typename Kind>
   void Complete(const std::vector<std::unique_ptr<Kind>>& runs) {
     std::vector<Run*> all;
@@ -45,6 +44,9 @@ class RunScheduler final : public QObject {
   bool event(QEvent* event) override;
 
  private:
+  class FinishedRuns;
+  class Task;
+
   void CompleteAll(std::vector<Run*> runs);
   void StartWhatCan();
   void TryStart(Run& run);

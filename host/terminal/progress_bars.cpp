@@ -48,7 +48,7 @@ void ProgressBars::OnRunEnded(const Run& run) {
 void ProgressBars::SetHidden(bool hidden) {
   if (!IsTerminal(Stream::Error)) return;
   if (hidden) {
-    // Redrawing nothing removes what is there.
+    // Redrawing without runs erases the bars.
     const auto runs = std::exchange(runs_, {});
     Redraw();
     runs_ = runs;
@@ -63,13 +63,13 @@ void ProgressBars::Redraw() {
   if (drawnLines_ > 0) frame += QStringLiteral("\x1b[%1A").arg(drawnLines_);
   frame += QStringLiteral("\r\x1b[J");
 
-  // More lines than the screen has could not be taken back.
+  // Lines that have scrolled off the screen could not be erased.
   const TerminalSize size = ErrorTerminalSize();
   const auto lines = std::min(static_cast<int>(runs_.size()), std::max(1, size.rows - 1));
   const int columns = std::min(size.columns - 1, kMostColumns);
   for (int line = 0; line < lines; ++line) {
     const Run& run = *runs_[static_cast<std::size_t>(line)];
-    frame += ProgressLine(run.Name(), run.recorder.Progress().value_or(0), columns) + QLatin1Char('\n');
+    frame += ProgressLine(run.Name(), run.log.Progress().value_or(0), columns) + QLatin1Char('\n');
   }
   drawnLines_ = lines;
   Write(Stream::Error, frame.toUtf8());

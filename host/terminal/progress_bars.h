@@ -7,8 +7,7 @@
 
 namespace orvik::host {
 
-/// One bar on standard error for each run under way, when that is a terminal; nothing otherwise. No bar is left
-/// behind at the end.
+/// Draws one bar on standard error for each active run if that is a terminal, and removes them at the end.
 class ProgressBars final : public RunObserver {
  public:
   ProgressBars();
@@ -17,7 +16,7 @@ class ProgressBars final : public RunObserver {
   void OnRunStarted(const Run& run) override;
   void OnRunEnded(const Run& run) override;
 
-  /// Takes the bars away, and shows them again: someone else writes to standard error.
+  /// Removes the bars while something else writes to standard error.
   void SetHidden(bool hidden);
 
  private:
@@ -29,7 +28,7 @@ class ProgressBars final : public RunObserver {
   int drawnLines_ = 0;
 };
 
-/// One bar: the name, cut or padded, the bar and the percentage, exactly `columns` wide. `percent` is 0 to 100.
+/// One bar: the name, truncated or padded, the bar and the percentage, exactly `columns` wide. `percent` is 0 to 100.
 QString ProgressLine(const QString& name, int percent, int columns);
 
 }  // namespace orvik::host

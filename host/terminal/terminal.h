@@ -12,16 +12,19 @@ struct TerminalSize {
   int rows = 24;
 };
 
-/// Readies a console for UTF-8 text and escape sequences where it is not so by itself. Once, at the start.
+/// Switches a Windows console to UTF-8 and escape sequences. Call once at the start.
 void PrepareConsole();
 
-/// Whether the stream is a terminal on which the cursor can be moved.
+/// Whether the stream is a terminal that understands escape sequences.
 bool IsTerminal(Stream stream);
 
-/// Of the terminal behind standard error.
+/// Whether standard output is such a terminal and NO_COLOR is not set.
+bool OutputTakesColours();
+
+/// Size of the terminal behind standard error; the default size if it is unknown.
 TerminalSize ErrorTerminalSize();
 
-/// Whether a person may answer on standard input. Never on Windows, which has windows to ask in.
+/// Whether a user can answer on standard input. Always false on Windows, where questions appear in windows.
 bool IsInputTerminal();
 
 struct InputLine {
@@ -30,10 +33,10 @@ struct InputLine {
   QString text{};
 };
 
-/// A line from standard input when one is there; never waits for it.
+/// The next line of standard input if one is available. Does not block.
 InputLine PollInputLine();
 
-/// Writes all of `bytes` at once. False when the stream does not take them.
+/// Writes and flushes all of `bytes`. False if the stream does not accept them.
 bool Write(Stream stream, QByteArrayView bytes);
 
 }  // namespace orvik::host

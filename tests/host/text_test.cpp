@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "host/terminal/progress_bars.h"
-#include "host/text/display_text.h"
-#include "host/text/message_text.h"
+#include "host/text/format.h"
+#include "host/text/translations.h"
 
 using namespace std::string_literals;
 

@@ -1,0 +1,83 @@
+#include <QCoreApplication>
+#include <string>
+
+#include "host/command/command.h"
+#include "host/privacy/hide_serials.h"
+#include "host/question/question_desk.h"
+#include "host/report/device_report.h"
+#include "host/report/run_report.h"
+
+namespace orvik::host {
+namespace {
+
+class RunTestsCommand final : public Command {
+ public:
+  const char* Name() const override { return "test"; }
+
+  QString Description() const override {
+    return QCoreApplication::translate("orvik-diag", "Run tests: every test on every device, or those chosen");
+  }
+
+  void AddOptions(CLI::App& options) override {
+    AddDeviceOption(options, deviceNames_);
+    AddListOption(options, "--only", testNames_,
+                  QCoreApplication::translate("orvik-diag", "Only the test with this id, key or name"))
+        ->type_name(QCoreApplication::translate("orvik-diag", "TEST").toStdString());
+    options
+        .add_option(
+            "--answer", answer_,
+            QCoreApplication::translate("orvik-diag", "Press this button when a test asks a question").toStdString())
+        ->type_name(QCoreApplication::translate("orvik-diag", "BUTTON").toStdString())
+        ->check(CLI::IsMember({"ok", "cancel", "yes", "no"}, CLI::ignore_case));
+  }
+
+  Result<Report> Execute(const CommandContext& context) override {
+    const Result<std::vector<ListedDevice>> devices = FindDevices(context);
+    if (!devices.Ok()) return devices.Error();
+    const TestList list = ListTests(context.module, context.translations);
+    const auto chosenDevices = SelectDevices(devices.Value(), deviceNames_);
+    if (!chosenDevices.Ok()) return chosenDevices.Error();
+    const auto chosenTests = SelectTests(list.tests, testNames_);
+    if (!chosenTests.Ok()) return chosenTests.Error();
+
+    const TestRunList runs = PlanRuns(chosenDevices.Value(), chosenTests.Value(), context.abortFlag);
+    {
+      ProgressBars bars;
+      QuestionDesk desk(AnswerNamed(QString::fromStdString(answer_)), [&bars](bool used) { bars.SetHidden(used); });
+      for (const auto& run : runs) run->log.SetQuestionPresenter(desk);
+      RunScheduler(*context.module.GetDispatcher(), context.abortFlag, bars).Complete(runs);
+    }
+
+    Report report;
+    report.errors = list.errors;
+    if (!list.errors.isEmpty()) report.exitCode = ExitCode::CouldNotTell;
+    for (const auto& run : runs) {
+      if (context.hideSerials) HideSerials(run->log.Messages());
+      report.exitCode = Worse(report.exitCode, ExitCodeOf(run->outcome));
+      if (!run->outcome.Ok()) {
+        report.errors += DeviceProblem(*run->device, run->test->name, run->outcome.Error().text);
+      }
+    }
+    if (context.format == OutputFormat::Json) {
+      report.sections["devices"] = DevicesJson(devices.Value());
+      report.sections["runs"] = RunsJson(runs);
+      report.sections["summary"] = SummaryJson(runs);
+    } else {
+      report.text = RunsText(runs, context.palette);
+    }
+    return report;
+  }
+
+ private:
+  std::vector<std::string> deviceNames_;
+  std::vector<std::string> testNames_;
+  std::string answer_;
+};
+
+}  // namespace
+
+std::unique_ptr<Command> MakeRunTestsCommand() {
+  return std::make_unique<RunTestsCommand>();
+}
+
+}  // namespace orvik::host

@@ -1,0 +1,109 @@
+#include "host/library/libraries.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLibrary>
+#include <exception>
+
+#include "host/text/format.h"
+
+namespace orvik::host {
+namespace {
+
+using OpenSimulationFunction = const char*(const char* utf8Path);
+
+#ifdef Q_OS_WIN
+constexpr QLatin1String kSuffix(".dll");
+#else
+constexpr QLatin1String kSuffix(".so");
+#endif
+constexpr QLatin1String kInstalledModule("ovk_module_raid");
+constexpr QLatin1String kSimulatedModule("ovk_module_raid_simulated");
+
+// Holds the simulated machine and the module variant for it: the folder "simulated" if there is one, otherwise the
+// program's own. In a folder of its own a simulated vendor library is not mistaken for the vendor's.
+QDir SimulationFolder() {
+  QDir folder(QCoreApplication::applicationDirPath());
+  // Stays in the program's folder if "simulated" does not exist.
+  folder.cd(QStringLiteral("simulated"));
+  return folder;
+}
+
+// Lets the libraries of the folder find each other when they are loaded.
+void AddToSearchPath(const QDir& folder) {
+  const QByteArray path = QDir::toNativeSeparators(folder.absolutePath()).toLocal8Bit();
+  qputenv("PATH", path + QChar(QDir::listSeparator()).toLatin1() + qgetenv("PATH"));
+}
+
+// Always absolute: the system would search its library path for a bare name.
+QString ModulePath(const QString& file, bool simulated) {
+  if (!file.isEmpty()) return QFileInfo(file).absoluteFilePath();
+  const QDir simulation = SimulationFolder();
+  const QString variant = kSimulatedModule + kSuffix;
+  if (simulated && simulation.exists(variant)) return simulation.filePath(variant);
+  return QDir(QCoreApplication::applicationDirPath()).filePath(kInstalledModule + kSuffix);
+}
+
+Error NotAModule(const QString& path, const QString& found) {
+  return {QCoreApplication::translate("orvik-diag", "%1: expected a diagnostics module library, found %2")
+              .arg(QDir::toNativeSeparators(path), found.simplified())};
+}
+
+QString LoadProblem(const QFileInfo& file, const QLibrary& library) {
+  if (file.isDir()) return QCoreApplication::translate("orvik-diag", "a folder");
+  if (!file.exists()) return QCoreApplication::translate("orvik-diag", "no such file");
+  return QCoreApplication::translate("orvik-diag", "none that can be loaded (%1)").arg(library.errorString());
+}
+
+}  // namespace
+
+Result<void> OpenSimulatedMachine(const QString& machineFile) {
+  const QDir folder = SimulationFolder();
+  AddToSearchPath(folder);
+  QLibrary library(folder.filePath(QStringLiteral("orvik_simulation")));
+  auto* const open = reinterpret_cast<OpenSimulationFunction*>(library.resolve("OrvikSimulationOpen"));
+  if (open == nullptr) {
+    return Error{
+        QCoreApplication::translate("orvik-diag", "Simulated machines are not available in this installation: %1")
+            .arg(library.errorString().simplified())};
+  }
+  const char* const problem = open(machineFile.toUtf8().constData());
+  if (problem != nullptr) return Error{QString::fromUtf8(problem).simplified()};
+  return {};
+}
+
+Result<std::unique_ptr<ModuleLibrary>> ModuleLibrary::Open(const QString& file, bool simulated) {
+  const QString path = ModulePath(file, simulated);
+  // Never unloaded: what the module handed out may need its code until the program ends.
+  QLibrary library(path);
+  if (!library.load()) return NotAModule(path, LoadProblem(QFileInfo(path), library));
+
+  auto* const create = reinterpret_cast<CreateModuleInstanceFunction*>(library.resolve("CreateModuleInstance"));
+  auto* const destroy = reinterpret_cast<DestroyModuleInstanceFunction*>(library.resolve("DestroyModuleInstance"));
+  if (create == nullptr || destroy == nullptr) {
+    const QString missing = QLatin1String(create == nullptr ? "CreateModuleInstance" : "DestroyModuleInstance");
+    return NotAModule(path, QCoreApplication::translate("orvik-diag", "a library without %1").arg(missing));
+  }
+
+  core::Module* module = nullptr;
+  QString cause = QCoreApplication::translate("orvik-diag", "it made none");
+  try {
+    module = create();
+  } catch (const std::exception& exception) {
+    cause = CauseOf(exception);
+  }
+  if (module == nullptr) {
+    return NotAModule(path, QCoreApplication::translate("orvik-diag", "one that could not start (%1)").arg(cause));
+  }
+  return std::unique_ptr<ModuleLibrary>(new ModuleLibrary(module, destroy));
+}
+
+ModuleLibrary::ModuleLibrary(core::Module* module, DestroyModuleInstanceFunction* destroy)
+    : module_(module), destroy_(destroy) {}
+
+ModuleLibrary::~ModuleLibrary() {
+  destroy_(module_);
+}
+
+}  // namespace orvik::host

@@ -1,0 +1,84 @@
+#include "host/text/format.h"
+
+#include <QCoreApplication>
+#include <QList>
+#include <limits>
+
+namespace orvik::host {
+namespace {
+
+bool IsPadding(QChar character) {
+  return character.isSpace() || character.isNull();
+}
+
+// Characters that could move the cursor, change colours or reorder the line.
+bool IsUnsafe(char32_t character) {
+  switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph: return true;
+    default: return false;
+  }
+}
+
+QString Escaped(char32_t character) {
+  const bool fitsByte = character <= 0xFF;
+  return (fitsByte ? QStringLiteral("\\x%1") : QStringLiteral("\\u{%1}"))
+      .arg(static_cast<uint>(character), fitsByte ? 2 : 4, 16, QLatin1Char('0'));
+}
+
+}  // namespace
+
+QString RawText(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString DisplayText(std::string_view text) {
+  const QString raw = RawText(text);
+  qsizetype begin = 0;
+  qsizetype end = raw.size();
+  while (begin < end && IsPadding(raw[begin])) ++begin;
+  while (end > begin && IsPadding(raw[end - 1])) --end;
+
+  QString shown;
+  for (const char32_t character : raw.mid(begin, end - begin).toUcs4()) {
+    // A text of several padded fields has runs of blanks in the middle.
+    if (character == U' ' && shown.endsWith(QLatin1Char(' '))) continue;
+    shown += IsUnsafe(character) ? Escaped(character) : QString::fromUcs4(&character, 1);
+  }
+  return shown;
+}
+
+QString CauseOf(const std::exception& exception) {
+  return QString::fromUtf8(exception.what()).simplified();
+}
+
+QString WithChoices(const QString& problem, const QStringList& available) {
+  const QString list =
+      available.isEmpty()
+          ? QCoreApplication::translate("orvik-diag", "there is none")
+          : QCoreApplication::translate("orvik-diag", "there are: %1").arg(available.join(QStringLiteral(", ")));
+  return QStringLiteral("%1; %2").arg(problem, list);
+}
+
+QJsonValue JsonNumber(std::uint64_t number) {
+  constexpr auto kLargestExact = static_cast<std::uint64_t>(std::numeric_limits<qint64>::max());
+  return number <= kLargestExact ? QJsonValue(static_cast<qint64>(number)) : QJsonValue(static_cast<double>(number));
+}
+
+QJsonValue JsonNumber(const std::optional<std::uint64_t>& number) {
+  return number ? JsonNumber(*number) : QJsonValue(QJsonValue::Null);
+}
+
+QJsonValue JsonTextOrNull(const QString& text) {
+  return text.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
+}
+
+QJsonArray JsonTexts(const std::vector<std::string>& texts) {
+  QJsonArray array;
+  for (const std::string& text : texts) array.append(RawText(text));
+  return array;
+}
+
+}  // namespace orvik::host
