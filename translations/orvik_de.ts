@@ -41,15 +41,15 @@
     </message>
     <message>
         <source>RESOURCE_TYPE</source>
-        <translation>Art</translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>LOGICAL_DISK</source>
-        <translation>Logischer Datenträger</translation>
+        <translation>Logisches Laufwerk</translation>
     </message>
     <message>
         <source>PHYSICAL_DISK</source>
-        <translation>Physischer Datenträger</translation>
+        <translation>Physisches Laufwerk</translation>
     </message>
     <message>
         <source>INDEX</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>SINGLE_DRIVE_RAID_SET</source>
-        <translation>RAID-Verbund aus einem Laufwerk</translation>
+        <translation>RAID-Verbund mit einem Laufwerk</translation>
     </message>
     <message>
         <source>UNKNOWN</source>
@@ -85,27 +85,27 @@
     </message>
     <message>
         <source>EXTENDED_RAID_TESTS_TOOLTIP</source>
-        <translation>Ausführliche RAID-Tests</translation>
+        <translation>Erweiterte RAID-Tests</translation>
     </message>
     <message>
         <source>BATTERY_STATUS_TEST</source>
-        <translation>Test der Pufferbatterie</translation>
+        <translation>Statustest der Pufferbatterie</translation>
     </message>
     <message>
         <source>BATTERY_STATUS_TEST_TOOLTIP</source>
-        <translation>Prüft, ob die Pufferbatterie vorhanden, kühl genug und geladen ist</translation>
+        <translation>Prüft Vorhandensein, Temperatur und Spannung der Pufferbatterie</translation>
     </message>
     <message>
         <source>ENCLOSURES_STATUS_TEST</source>
-        <translation>Test der Laufwerksgehäuse</translation>
+        <translation>Statustest der Laufwerksgehäuse</translation>
     </message>
     <message>
         <source>ENCLOSURES_STATUS_TEST_TOOLTIP</source>
-        <translation>Sucht nach Gehäusen, die eine Störung melden</translation>
+        <translation>Sucht nach Laufwerksgehäusen, die einen Fehler melden</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVES_STATUS_TEST</source>
-        <translation>Test der logischen Laufwerke</translation>
+        <translation>Statustest der logischen Laufwerke</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVES_STATUS_TEST_TOOLTIP</source>
@@ -117,11 +117,11 @@
     </message>
     <message>
         <source>CHECK_CONSISTENCY_TEST_TOOLTIP</source>
-        <translation>Lässt den Controller die Daten aller logischen Laufwerke auf Konsistenz prüfen; das kann Stunden dauern</translation>
+        <translation>Führt die Konsistenzprüfung des Controllers auf allen logischen Laufwerken aus; das kann Stunden dauern</translation>
     </message>
     <message>
         <source>RAID_STATUS_TEST</source>
-        <translation>Test des RAID-Zustands</translation>
+        <translation>RAID-Statustest</translation>
     </message>
     <message>
         <source>RAID_STATUS_TEST_TOOLTIP</source>
@@ -129,31 +129,31 @@
     </message>
     <message>
         <source>RAID_CONTROLLER_STATUS_TEST</source>
-        <translation>Test des RAID-Controllers</translation>
+        <translation>Statustest des RAID-Controllers</translation>
     </message>
     <message>
         <source>RAID_CONTROLLER_STATUS_TEST_TOOLTIP</source>
-        <translation>Prüft, ob der RAID-Controller arbeitet, erreichbar und eingeschaltet ist</translation>
+        <translation>Prüft, ob der RAID-Controller betriebsbereit, online und eingeschaltet ist</translation>
     </message>
     <message>
         <source>TEST_ABORTED_BECAUSE_A_SYSTEM_EVENT_THAT_COULD_COMPROMISE_THE_OUTCOME_HAS_HAPPENED</source>
-        <translation>Test abgebrochen: Ein Systemereignis könnte das Ergebnis verfälschen</translation>
+        <translation>Test abgebrochen: Ein Systemereignis könnte das Ergebnis verfälscht haben</translation>
     </message>
     <message>
         <source>THIS_TEST_CANNOT_BE_PERFORMED_BECAUSE_THE_DEVICE_COULD_NOT_BE_IDENTIFIED_OR_HAS_BEEN_DISCONNECTED</source>
-        <translation>Dieser Test ist nicht möglich: Das Gerät wurde nicht erkannt oder ist nicht mehr angeschlossen</translation>
+        <translation>Test nicht möglich: Das Gerät konnte nicht identifiziert werden oder wurde getrennt</translation>
     </message>
     <message>
         <source>UNABLE_TO_RETRIEVE_DEVICE_PROPERTIES</source>
-        <translation>Die Eigenschaften des Geräts konnten nicht gelesen werden</translation>
+        <translation>Die Geräteeigenschaften konnten nicht gelesen werden</translation>
     </message>
     <message>
         <source>UNABLE_TO_COMMUNICATE_WITH_INTEL_C600_CONTROLLER</source>
-        <translation>Der Intel-C600-Controller ist nicht erreichbar</translation>
+        <translation>Keine Kommunikation mit dem Intel-C600-Controller möglich</translation>
     </message>
     <message>
         <source>RAID_MAYBE_THE_SATA_MODE_IS_NOT_SET_TO_RAID</source>
-        <translation>Der SATA-Modus ist vielleicht nicht auf RAID eingestellt</translation>
+        <translation>Der SATA-Modus ist möglicherweise nicht auf RAID eingestellt</translation>
     </message>
     <message>
         <source>CANT_GET_LOGICAL_DRIVES_INFO</source>
@@ -161,27 +161,27 @@
     </message>
     <message>
         <source>NO_LOGICAL_DRIVE_FOUND_SKIPPING_TEST</source>
-        <translation>Kein logisches Laufwerk gefunden, der Test entfällt</translation>
+        <translation>Kein logisches Laufwerk gefunden, Test wird übersprungen</translation>
     </message>
     <message>
         <source>UNSUPPORTED_RAID_LEVEL_IN_LOGICAL_DRIVE</source>
-        <translation>RAID-Level nicht unterstützt bei logischem Laufwerk</translation>
+        <translation>RAID-Level nicht unterstützt, logisches Laufwerk</translation>
     </message>
     <message>
         <source>TEST_DOESNT_SUPPORT_RAID_LEVEL</source>
-        <translation>Der Test unterstützt nicht den RAID-Level</translation>
+        <translation>RAID-Level wird von diesem Test nicht unterstützt</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_OPTIMAL</source>
-        <translation>Logisches Laufwerk ist in Ordnung</translation>
+        <translation>Logisches Laufwerk ist optimal</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_DEGRADED</source>
-        <translation>Logisches Laufwerk ist beeinträchtigt</translation>
+        <translation>Logisches Laufwerk ist degradiert</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_PARTIALLY_DEGRADED</source>
-        <translation>Logisches Laufwerk ist teilweise beeinträchtigt</translation>
+        <translation>Logisches Laufwerk ist teilweise degradiert</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_OFFLINE</source>
@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>LOGICAL_DRIVE_UNKNOWN_STATUS</source>
-        <translation>Zustand unbekannt bei logischem Laufwerk</translation>
+        <translation>Status unbekannt, logisches Laufwerk</translation>
     </message>
     <message>
         <source>DRIVE_DOWN</source>
@@ -205,11 +205,11 @@
     </message>
     <message>
         <source>CANNOT_RETRIEVE_CONTROLLER_INFO</source>
-        <translation>Die Angaben des Controllers konnten nicht gelesen werden</translation>
+        <translation>Die Controllerinformationen konnten nicht gelesen werden</translation>
     </message>
     <message>
         <source>CANT_VERIFY_STATUS_OF_ALL_LOGICAL_DRIVES</source>
-        <translation>Der Zustand einiger logischer Laufwerke konnte nicht geprüft werden</translation>
+        <translation>Der Status einiger logischer Laufwerke konnte nicht geprüft werden</translation>
     </message>
     <message>
         <source>CHECK_CONSISTENCY_ALREADY_IN_PROGRESS</source>
@@ -217,23 +217,23 @@
     </message>
     <message>
         <source>CANCEL_AND_START_NEW_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE_QUESTION</source>
-        <translation>Auf mindestens einem logischen Laufwerk läuft bereits eine Konsistenzprüfung. Soll sie abgebrochen und neu begonnen werden?</translation>
+        <translation>Auf mindestens einem logischen Laufwerk läuft bereits eine Konsistenzprüfung. Abbrechen und neu starten?</translation>
     </message>
     <message>
         <source>CANCELLING_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE</source>
-        <translation>Konsistenzprüfung wird abgebrochen auf logischem Laufwerk</translation>
+        <translation>Konsistenzprüfung wird abgebrochen, logisches Laufwerk</translation>
     </message>
     <message>
         <source>CANT_CANCEL_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE</source>
-        <translation>Konsistenzprüfung ließ sich nicht abbrechen auf logischem Laufwerk</translation>
+        <translation>Konsistenzprüfung konnte nicht abgebrochen werden, logisches Laufwerk</translation>
     </message>
     <message>
         <source>IGNORING_LOGICAL_DRIVE_CHECK_CONSISTENCY_ALREADY_RUNNING</source>
-        <translation>Übergangen, weil bereits eine Konsistenzprüfung läuft: logisches Laufwerk</translation>
+        <translation>Konsistenzprüfung läuft bereits, übersprungenes logisches Laufwerk</translation>
     </message>
     <message>
         <source>RUNNING_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE</source>
-        <translation>Konsistenzprüfung läuft auf logischem Laufwerk</translation>
+        <translation>Konsistenzprüfung läuft, logisches Laufwerk</translation>
     </message>
     <message>
         <source>ERROR_RETRIEVING_PROGRESS</source>
@@ -241,15 +241,15 @@
     </message>
     <message>
         <source>FAILED_TO_SEND_COMMAND_TO_LOGICAL_DRIVE</source>
-        <translation>Ein Befehl ließ sich nicht senden an logisches Laufwerk</translation>
+        <translation>Befehl konnte nicht gesendet werden, logisches Laufwerk</translation>
     </message>
     <message>
         <source>NO_TESTABLE_LOGICAL_DRIVE_FOUND</source>
-        <translation>Kein logisches Laufwerk gefunden, das sich testen lässt</translation>
+        <translation>Kein testbares logisches Laufwerk gefunden</translation>
     </message>
     <message>
         <source>CANNOT_GET_CONSISTENCY_CHECK_RESULT</source>
-        <translation>Ergebnis der Konsistenzprüfung nicht lesbar für logisches Laufwerk</translation>
+        <translation>Ergebnis der Konsistenzprüfung nicht lesbar, logisches Laufwerk</translation>
     </message>
     <message>
         <source>INCONSISTENT_LOGICAL_DRIVE</source>
@@ -261,23 +261,23 @@
     </message>
     <message>
         <source>LOGICAL_DRIVE_SKIPPED_INITIALIZATION_IN_PROGRESS</source>
-        <translation>Übergangen, weil es initialisiert wird: logisches Laufwerk</translation>
+        <translation>Initialisierung läuft, übersprungenes logisches Laufwerk</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_NOT_IN_OPTIMAL_STATE</source>
-        <translation>Nicht in optimalem Zustand: logisches Laufwerk</translation>
+        <translation>Logisches Laufwerk ist nicht optimal</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_SKIPPED_RECONSTRUCTION_IN_PROGRESS</source>
-        <translation>Übergangen, weil es umgebaut wird: logisches Laufwerk</translation>
+        <translation>Rekonstruktion läuft, übersprungenes logisches Laufwerk</translation>
     </message>
     <message>
         <source>RAID_NOT_SUPPORTED_LOGICAL_DRIVE_WILL_BE_SKIPPED</source>
-        <translation>Das logische Laufwerk wird übergangen, sein RAID-Level wird nicht unterstützt</translation>
+        <translation>RAID-Level nicht unterstützt, übersprungenes logisches Laufwerk</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_SKIPPED_RESERVED_BY_SCSI_PEER</source>
-        <translation>Übergangen, weil ein anderes SCSI-System es reserviert hat: logisches Laufwerk</translation>
+        <translation>Von einem anderen SCSI-System reserviert, übersprungenes logisches Laufwerk</translation>
     </message>
     <message>
         <source>RAID_CONTROLLER_HAS_FAILED</source>
@@ -301,15 +301,15 @@
     </message>
     <message>
         <source>FAULTY_ENCLOSURE</source>
-        <translation>Gestörtes Laufwerksgehäuse</translation>
+        <translation>Fehlerhaftes Laufwerksgehäuse</translation>
     </message>
     <message>
         <source>FAULTY_ENCLOSURE_FOUND</source>
-        <translation>Mindestens ein Laufwerksgehäuse ist gestört</translation>
+        <translation>Mindestens ein Laufwerksgehäuse ist fehlerhaft</translation>
     </message>
     <message>
         <source>CANT_CHECK_BATTERY_BACKUP_UNIT_API_SUPPORT</source>
-        <translation>Es ließ sich nicht feststellen, ob eine Pufferbatterie möglich ist</translation>
+        <translation>Es konnte nicht ermittelt werden, ob eine Pufferbatterie unterstützt wird</translation>
     </message>
     <message>
         <source>BATTERY_BACKUP_UNIT_NOT_SUPPORTED</source>
@@ -317,23 +317,23 @@
     </message>
     <message>
         <source>CANT_GET_BATTERY_STATUS</source>
-        <translation>Der Zustand der Batterie konnte nicht gelesen werden</translation>
+        <translation>Der Batteriestatus konnte nicht gelesen werden</translation>
     </message>
     <message>
         <source>BATTERY_BACKUP_UNIT_NOT_PRESENT</source>
-        <translation>Es ist keine Pufferbatterie vorhanden</translation>
+        <translation>Keine Pufferbatterie vorhanden</translation>
     </message>
     <message>
         <source>BATTERY_PACK_MISSING</source>
-        <translation>Der Batteriesatz fehlt</translation>
+        <translation>Batteriepack fehlt</translation>
     </message>
     <message>
         <source>BATTERY_TEMPERATURE_HIGH</source>
-        <translation>Die Temperatur der Batterie ist hoch</translation>
+        <translation>Batterietemperatur ist hoch</translation>
     </message>
     <message>
         <source>LOW_BATTERY_VOLTAGE</source>
-        <translation>Die Spannung der Batterie ist niedrig</translation>
+        <translation>Batteriespannung ist niedrig</translation>
     </message>
 </context>
 <context>
@@ -343,24 +343,24 @@
         <translation>Orvik Diagnose</translation>
     </message>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>CANCEL</source>
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>YES</source>
-        <translation>Ja</translation>
+        <source>CLOSE_POP_UP</source>
+        <translation>Meldung schließen</translation>
     </message>
     <message>
         <source>NO</source>
         <translation>Nein</translation>
     </message>
     <message>
-        <source>CLOSE_POP_UP</source>
-        <translation>Meldung schließen</translation>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>YES</source>
+        <translation>Ja</translation>
     </message>
 </context>
 <context>
@@ -370,20 +370,20 @@
         <translation>%1 Byte</translation>
     </message>
     <message>
-        <source>%1 degrees Celsius</source>
-        <translation>%1 Grad Celsius</translation>
+        <source>%1 bytes physical</source>
+        <translation>physisch %1 Byte</translation>
     </message>
     <message>
         <source>%1 of %2 bytes</source>
         <translation>%1 zu je %2 Byte</translation>
     </message>
     <message>
-        <source>%1 revolutions per minute</source>
-        <translation>%1 Umdrehungen pro Minute</translation>
+        <source>%1 rpm</source>
+        <translation>%1 U/min</translation>
     </message>
     <message>
-        <source>%1: expected a diagnostics module library, found %2</source>
-        <translation>%1: eine Diagnosemodul-Bibliothek wurde erwartet, gefunden: %2</translation>
+        <source>%1 °C</source>
+        <translation>%1 °C</translation>
     </message>
     <message numerus="yes">
         <source>%n RAID controller(s)</source>
@@ -402,8 +402,8 @@
     <message numerus="yes">
         <source>%n member(s)</source>
         <translation>
-            <numerusform>%n Mitglied</numerusform>
-            <numerusform>%n Mitglieder</numerusform>
+            <numerusform>%n Mitgliedslaufwerk</numerusform>
+            <numerusform>%n Mitgliedslaufwerke</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -415,47 +415,43 @@
     </message>
     <message>
         <source>(required)</source>
-        <translation>(nötig)</translation>
+        <translation>(erforderlich)</translation>
     </message>
     <message>
         <source>(see %1 --help)</source>
         <translation>(siehe %1 --help)</translation>
     </message>
     <message>
-        <source>48-bit addresses</source>
-        <translation>48-Bit-Adressen</translation>
+        <source>48-bit addressing</source>
+        <translation>48-Bit-Adressierung</translation>
     </message>
     <message>
-        <source>A self-test is under way already; --abort ends it</source>
-        <translation>Ein Selbsttest läuft bereits; --abort beendet ihn</translation>
-    </message>
-    <message>
-        <source>A short self-test; what is done without an option</source>
-        <translation>Ein kurzer Selbsttest; das geschieht auch ohne Option</translation>
+        <source>A self-test is already running; use --abort to stop it</source>
+        <translation>Es läuft bereits ein Selbsttest; mit --abort abbrechen</translation>
     </message>
     <message>
         <source>ATA error</source>
         <translation>ATA-Fehler</translation>
     </message>
     <message>
-        <source>Abort the self-test under way</source>
-        <translation>Den laufenden Selbsttest abbrechen</translation>
+        <source>Abort command accepted</source>
+        <translation>Abbruchbefehl angenommen</translation>
     </message>
     <message>
-        <source>An extended self-test</source>
-        <translation>Ein ausführlicher Selbsttest</translation>
+        <source>Abort the running self-test</source>
+        <translation>Laufenden Selbsttest abbrechen</translation>
+    </message>
+    <message>
+        <source>Answer questions of tests with this button</source>
+        <translation>Fragen von Tests mit dieser Schaltfläche beantworten</translation>
     </message>
     <message>
         <source>Arguments</source>
         <translation>Argumente</translation>
     </message>
     <message>
-        <source>Ask the member drives for their identification and condition</source>
-        <translation>Die Laufwerke hinter den Controllern nach Kennung und Zustand fragen</translation>
-    </message>
-    <message>
         <source>BUTTON</source>
-        <translation>TASTE</translation>
+        <translation>SCHALTFLÄCHE</translation>
     </message>
     <message>
         <source>CODE</source>
@@ -466,20 +462,72 @@
         <translation>BEFEHL</translation>
     </message>
     <message>
-        <source>Cache (the drive's own figure)</source>
-        <translation>Cache (Angabe des Laufwerks)</translation>
+        <source>Cache size (as reported)</source>
+        <translation>Cachegröße (laut Laufwerk)</translation>
     </message>
     <message>
         <source>Capacity</source>
         <translation>Kapazität</translation>
     </message>
     <message>
+        <source>Check for a RAID controller without a full scan</source>
+        <translation>Ohne vollständige Suche prüfen, ob ein RAID-Controller vorhanden ist</translation>
+    </message>
+    <message>
         <source>Commands</source>
         <translation>Befehle</translation>
     </message>
     <message>
+        <source>Could not abort the self-test: %1</source>
+        <translation>Der Selbsttest konnte nicht abgebrochen werden: %1</translation>
+    </message>
+    <message>
+        <source>Could not identify the drive (%1)</source>
+        <translation>Laufwerk konnte nicht identifiziert werden (%1)</translation>
+    </message>
+    <message>
+        <source>Could not load the module %1: %2</source>
+        <translation>Das Modul %1 kann nicht geladen werden: %2</translation>
+    </message>
+    <message>
+        <source>Could not read all drives of the controller (%1)</source>
+        <translation>Nicht alle Laufwerke des Controllers konnten gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>Could not read the controller's logical drives (%1)</source>
+        <translation>Logische Laufwerke des Controllers konnten nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>Could not read the controller's physical drives (%1)</source>
+        <translation>Physische Laufwerke des Controllers konnten nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>Could not read the controller's properties (%1)</source>
+        <translation>Eigenschaften des Controllers konnten nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>Could not read the progress of the self-test: %1</source>
+        <translation>Der Fortschritt des Selbsttests konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Could not read the result of the self-test: %1</source>
+        <translation>Das Ergebnis des Selbsttests konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Could not start the self-test: %1</source>
+        <translation>Der Selbsttest konnte nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>Could not start: %1</source>
+        <translation>Start nicht möglich: %1</translation>
+    </message>
+    <message>
+        <source>Could not write the output</source>
+        <translation>Die Ausgabe konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
         <source>DEVICE</source>
-        <translation>KENNUNG</translation>
+        <translation>GERÄT</translation>
     </message>
     <message>
         <source>DRIVE</source>
@@ -498,12 +546,12 @@
         <translation>Geräte</translation>
     </message>
     <message>
-        <source>Diagnose the simulated machine that this file describes</source>
-        <translation>Den simulierten Rechner untersuchen, den diese Datei beschreibt</translation>
-    </message>
-    <message>
         <source>Drive %1: self-test</source>
         <translation>Laufwerk %1: Selbsttest</translation>
+    </message>
+    <message>
+        <source>Drive ID, or the indexes DEVICE:DRIVE</source>
+        <translation>Laufwerks-ID oder die Indizes GERÄT:LAUFWERK</translation>
     </message>
     <message>
         <source>Duration</source>
@@ -515,19 +563,15 @@
     </message>
     <message>
         <source>Extended self-test</source>
-        <translation>Ausführlicher Selbsttest</translation>
+        <translation>Erweiterter Selbsttest</translation>
     </message>
     <message>
         <source>FILE</source>
         <translation>DATEI</translation>
     </message>
     <message>
-        <source>Failure prediction (SMART)</source>
-        <translation>Ausfallvorhersage (SMART)</translation>
-    </message>
-    <message>
-        <source>Finds RAID controllers and tests them.</source>
-        <translation>Findet RAID-Controller und testet sie.</translation>
+        <source>Finds and tests RAID controllers.</source>
+        <translation>Findet und testet RAID-Controller.</translation>
     </message>
     <message>
         <source>Firmware</source>
@@ -538,68 +582,56 @@
         <translation>Erste fehlerhafte LBA</translation>
     </message>
     <message>
-        <source>For the options of all commands see %1 --help</source>
-        <translation>Die Optionen aller Befehle zeigt %1 --help</translation>
-    </message>
-    <message>
         <source>Group</source>
         <translation>Gruppe</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation>Gesundheit</translation>
+        <translation>Zustand</translation>
     </message>
     <message>
-        <source>Id</source>
-        <translation>Nummer</translation>
+        <source>I/O request failed</source>
+        <translation>E/A-Anforderung fehlgeschlagen</translation>
     </message>
     <message>
-        <source>Id of the drive, or DEVICE:DRIVE by their indexes</source>
-        <translation>Kennung des Laufwerks oder GERÄT:LAUFWERK nach ihren Nummern</translation>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
     </message>
     <message>
         <source>Interrupted</source>
         <translation>Unterbrochen</translation>
     </message>
     <message>
-        <source>It broke off: %1</source>
-        <translation>Unerwartet beendet: %1</translation>
-    </message>
-    <message>
         <source>Label</source>
         <translation>Etikett</translation>
     </message>
     <message>
-        <source>Language of the texts, for example de</source>
-        <translation>Sprache der Texte, zum Beispiel de</translation>
+        <source>Language of the output, for example de</source>
+        <translation>Sprache der Ausgabe, zum Beispiel de</translation>
     </message>
     <message>
         <source>Latest self-test</source>
         <translation>Letzter Selbsttest</translation>
     </message>
     <message>
-        <source>Let a member drive test itself, or abort what it has begun</source>
-        <translation>Ein Laufwerk sich selbst testen lassen oder seinen Selbsttest abbrechen</translation>
+        <source>List RAID controllers and their drives</source>
+        <translation>RAID-Controller und ihre Laufwerke auflisten</translation>
     </message>
     <message>
-        <source>List the RAID controllers with their disks</source>
-        <translation>Die RAID-Controller mit ihren Datenträgern auflisten</translation>
+        <source>List the tests and the devices they apply to</source>
+        <translation>Tests und die Geräte auflisten, für die sie gelten</translation>
     </message>
     <message>
-        <source>List the tests and the devices that each applies to</source>
-        <translation>Die Tests auflisten und zu jedem die Geräte, für die er gilt</translation>
+        <source>Logical drives</source>
+        <translation>Logische Laufwerke</translation>
     </message>
     <message>
-        <source>Logical disks</source>
-        <translation>Logische Datenträger</translation>
-    </message>
-    <message>
-        <source>Medium</source>
-        <translation>Medium</translation>
-    </message>
-    <message>
-        <source>NVMe drives offer no self-tests here</source>
-        <translation>NVMe-Laufwerke bieten hier keine Selbsttests</translation>
+        <source>Mask serial numbers and drive labels with X</source>
+        <translation>Seriennummern und Laufwerksetiketten mit X maskieren</translation>
     </message>
     <message>
         <source>Name</source>
@@ -610,8 +642,12 @@
         <translation>Kein RAID-Controller gefunden.</translation>
     </message>
     <message>
-        <source>No command was given</source>
-        <translation>Es wurde kein Befehl angegeben</translation>
+        <source>No applicable tests.</source>
+        <translation>Keine anwendbaren Tests.</translation>
+    </message>
+    <message>
+        <source>No command given</source>
+        <translation>Kein Befehl angegeben</translation>
     </message>
     <message>
         <source>No device "%1"</source>
@@ -622,52 +658,36 @@
         <translation>Kein Laufwerk „%1“</translation>
     </message>
     <message>
-        <source>No identification (%1)</source>
-        <translation>Keine Kennung (%1)</translation>
-    </message>
-    <message>
         <source>No test "%1"</source>
         <translation>Kein Test „%1“</translation>
     </message>
     <message>
-        <source>Not asked</source>
-        <translation>Nicht gefragt</translation>
-    </message>
-    <message>
-        <source>Nothing to test: no test applies.</source>
-        <translation>Nichts zu testen: Kein Test ist anwendbar.</translation>
+        <source>Not read</source>
+        <translation>Nicht gelesen</translation>
     </message>
     <message>
         <source>OPTIONS</source>
         <translation>OPTIONEN</translation>
     </message>
     <message>
-        <source>Only devices with this id, or the one with this index</source>
-        <translation>Nur Geräte mit dieser Kennung oder das mit diesem Index</translation>
-    </message>
-    <message>
-        <source>Only the test with this id, key or name</source>
-        <translation>Nur der Test mit dieser Nummer, diesem Schlüssel oder Namen</translation>
-    </message>
-    <message>
         <source>Options</source>
         <translation>Optionen</translation>
     </message>
     <message>
-        <source>Physical disks</source>
-        <translation>Physische Datenträger</translation>
+        <source>Physical drives</source>
+        <translation>Physische Laufwerke</translation>
     </message>
     <message>
         <source>Power mode</source>
         <translation>Energiezustand</translation>
     </message>
     <message>
-        <source>Press this button when a test asks a question</source>
-        <translation>Diese Schaltfläche drücken, wenn ein Test eine Frage stellt</translation>
+        <source>Print output as JSON</source>
+        <translation>Ausgabe als JSON</translation>
     </message>
     <message>
-        <source>Print one JSON document</source>
-        <translation>Ein JSON-Dokument ausgeben</translation>
+        <source>RAID controller found.</source>
+        <translation>RAID-Controller gefunden.</translation>
     </message>
     <message>
         <source>Remaining life</source>
@@ -678,12 +698,36 @@
         <translation>Ergebnis: %1</translation>
     </message>
     <message>
-        <source>Run tests: every test on every device, or those chosen</source>
-        <translation>Tests ausführen: alle auf allen Geräten oder die ausgewählten</translation>
+        <source>Rotation rate</source>
+        <translation>Drehzahl</translation>
     </message>
     <message>
-        <source>SCSI status not good</source>
+        <source>Run %1 --help for the options of all commands</source>
+        <translation>Optionen aller Befehle: %1 --help</translation>
+    </message>
+    <message>
+        <source>Run a short self-test (default)</source>
+        <translation>Kurzen Selbsttest ausführen (Standard)</translation>
+    </message>
+    <message>
+        <source>Run an extended self-test</source>
+        <translation>Erweiterten Selbsttest ausführen</translation>
+    </message>
+    <message>
+        <source>Run only the test with this ID, key or name</source>
+        <translation>Nur den Test mit dieser ID, diesem Schlüssel oder Namen ausführen</translation>
+    </message>
+    <message>
+        <source>Run tests; by default every test on every device</source>
+        <translation>Tests ausführen; standardmäßig alle auf allen Geräten</translation>
+    </message>
+    <message>
+        <source>SCSI status not GOOD</source>
         <translation>SCSI-Status nicht GOOD</translation>
+    </message>
+    <message>
+        <source>SMART</source>
+        <translation>SMART</translation>
     </message>
     <message>
         <source>Sectors</source>
@@ -698,24 +742,28 @@
         <translation>Selbsttests</translation>
     </message>
     <message>
+        <source>Self-tests are not supported on NVMe drives</source>
+        <translation>Selbsttests werden auf NVMe-Laufwerken nicht unterstützt</translation>
+    </message>
+    <message>
         <source>Serial number</source>
         <translation>Seriennummer</translation>
     </message>
     <message>
-        <source>Several drives are called "%1"</source>
-        <translation>Mehrere Laufwerke heißen „%1“</translation>
+        <source>Several drives match "%1"</source>
+        <translation>Mehrere Laufwerke passen zu „%1“</translation>
     </message>
     <message>
         <source>Short self-test</source>
         <translation>Kurzer Selbsttest</translation>
     </message>
     <message>
-        <source>Show an X for each character of a serial number</source>
-        <translation>Für jedes Zeichen einer Seriennummer ein X zeigen</translation>
+        <source>Show identity and health of the member drives</source>
+        <translation>Identität und Zustand der Mitgliedslaufwerke anzeigen</translation>
     </message>
     <message>
         <source>Show the version</source>
-        <translation>Die Version anzeigen</translation>
+        <translation>Version anzeigen</translation>
     </message>
     <message>
         <source>Show this help</source>
@@ -734,104 +782,68 @@
         <translation>Standards</translation>
     </message>
     <message>
-        <source>TEST</source>
-        <translation>TEST</translation>
+        <source>Start or abort a self-test on a member drive</source>
+        <translation>Selbsttest eines Mitgliedslaufwerks starten oder abbrechen</translation>
     </message>
     <message>
-        <source>Tell whether there is a RAID controller, without a scan</source>
-        <translation>Sagen, ob es einen RAID-Controller gibt, ohne zu suchen</translation>
+        <source>TEST</source>
+        <translation>TEST</translation>
     </message>
     <message>
         <source>Temperature</source>
         <translation>Temperatur</translation>
     </message>
     <message>
-        <source>The controller did not tell all its drives (%1)</source>
-        <translation>Der Controller hat nicht alle Laufwerke genannt (%1)</translation>
+        <source>The device is no longer available</source>
+        <translation>Das Gerät ist nicht mehr verfügbar</translation>
     </message>
     <message>
-        <source>The controller did not tell its logical disks (%1)</source>
-        <translation>Der Controller nennt seine logischen Datenträger nicht (%1)</translation>
+        <source>The module did not execute the task</source>
+        <translation>Das Modul hat die Aufgabe nicht ausgeführt</translation>
     </message>
     <message>
-        <source>The controller did not tell its physical disks (%1)</source>
-        <translation>Der Controller nennt seine physischen Datenträger nicht (%1)</translation>
+        <source>The module lists test %1 but does not create it</source>
+        <translation>Das Modul führt Test %1 auf, erzeugt ihn aber nicht</translation>
     </message>
     <message>
-        <source>The controller did not tell its properties (%1)</source>
-        <translation>Der Controller nennt seine Eigenschaften nicht (%1)</translation>
+        <source>The presence check failed: %1</source>
+        <translation>Die Prüfung auf Controller ist fehlgeschlagen: %1</translation>
     </message>
     <message>
-        <source>The device has gone since the scan</source>
-        <translation>Das Gerät ist seit der Suche verschwunden</translation>
+        <source>The presence check returned no result</source>
+        <translation>Die Prüfung auf Controller lieferte kein Ergebnis</translation>
     </message>
     <message>
-        <source>The drive does not tell how its self-test ended: %1</source>
-        <translation>Das Laufwerk sagt nicht, wie sein Selbsttest endete: %1</translation>
+        <source>The scan did not finish</source>
+        <translation>Die Suche wurde nicht abgeschlossen</translation>
     </message>
     <message>
-        <source>The drive does not tell how its self-test goes: %1</source>
-        <translation>Das Laufwerk sagt nicht, wie weit sein Selbsttest ist: %1</translation>
+        <source>The scan failed: %1</source>
+        <translation>Die Suche ist fehlgeschlagen: %1</translation>
     </message>
     <message>
-        <source>The drive was told to abort its self-test</source>
-        <translation>Dem Laufwerk wurde gesagt, seinen Selbsttest abzubrechen</translation>
-    </message>
-    <message>
-        <source>The module could not start it: %1</source>
-        <translation>Das Modul konnte nicht damit beginnen: %1</translation>
-    </message>
-    <message>
-        <source>The module did not run it</source>
-        <translation>Das Modul hat es nicht ausgeführt</translation>
-    </message>
-    <message>
-        <source>The module lists test %1 but does not make it</source>
-        <translation>Das Modul nennt Test %1, erzeugt ihn aber nicht</translation>
-    </message>
-    <message>
-        <source>The output could not be written</source>
-        <translation>Die Ausgabe konnte nicht geschrieben werden</translation>
-    </message>
-    <message>
-        <source>The presence check broke off: %1</source>
-        <translation>Die Anwesenheitsprüfung brach ab: %1</translation>
-    </message>
-    <message>
-        <source>The presence check ended without an answer</source>
-        <translation>Die Anwesenheitsprüfung endete ohne Antwort</translation>
-    </message>
-    <message>
-        <source>The scan broke off: %1</source>
-        <translation>Die Suche brach ab: %1</translation>
-    </message>
-    <message>
-        <source>The scan broke off: its end was not reported</source>
-        <translation>Die Suche brach ab: Ihr Ende wurde nicht gemeldet</translation>
-    </message>
-    <message>
-        <source>The self-test came to no verdict: %1</source>
-        <translation>Der Selbsttest kam zu keinem Ergebnis: %1</translation>
-    </message>
-    <message>
-        <source>The self-test could not be aborted: %1</source>
-        <translation>Der Selbsttest ließ sich nicht abbrechen: %1</translation>
-    </message>
-    <message>
-        <source>The self-test could not be started: %1</source>
-        <translation>Der Selbsttest ließ sich nicht starten: %1</translation>
+        <source>The self-test ended without a result: %1</source>
+        <translation>Der Selbsttest endete ohne Ergebnis: %1</translation>
     </message>
     <message>
         <source>The self-test was aborted</source>
         <translation>Der Selbsttest wurde abgebrochen</translation>
     </message>
     <message>
-        <source>There is a RAID controller.</source>
-        <translation>Es gibt einen RAID-Controller.</translation>
+        <source>Unexpected error: %1</source>
+        <translation>Unerwarteter Fehler: %1</translation>
     </message>
     <message>
         <source>Usage</source>
         <translation>Aufruf</translation>
+    </message>
+    <message>
+        <source>Use only devices with this ID or index</source>
+        <translation>Nur Geräte mit dieser ID oder diesem Index</translation>
+    </message>
+    <message>
+        <source>Use the simulated machine described in this file</source>
+        <translation>Den in dieser Datei beschriebenen simulierten Rechner verwenden</translation>
     </message>
     <message>
         <source>Use this module library instead of the installed one</source>
@@ -840,18 +852,6 @@
     <message>
         <source>Vendor</source>
         <translation>Hersteller</translation>
-    </message>
-    <message>
-        <source>a folder</source>
-        <translation>ein Ordner</translation>
-    </message>
-    <message>
-        <source>a library without %1</source>
-        <translation>eine Bibliothek ohne %1</translation>
-    </message>
-    <message>
-        <source>a segment failed</source>
-        <translation>ein Abschnitt ist fehlgeschlagen</translation>
     </message>
     <message>
         <source>aborted</source>
@@ -870,56 +870,60 @@
         <translation>aktiv oder im Leerlauf</translation>
     </message>
     <message>
-        <source>an element failed</source>
-        <translation>ein Element ist ausgefallen</translation>
+        <source>address too large or unknown sense data</source>
+        <translation>Adresse zu groß oder unbekannte Sense-Daten</translation>
     </message>
     <message>
-        <source>an unknown error</source>
-        <translation>ein unbekannter Fehler</translation>
+        <source>available: %1</source>
+        <translation>verfügbar: %1</translation>
     </message>
     <message>
-        <source>bad argument</source>
-        <translation>ungültiges Argument</translation>
-    </message>
-    <message>
-        <source>broken off by a fatal error</source>
-        <translation>durch einen schweren Fehler beendet</translation>
-    </message>
-    <message>
-        <source>command refused</source>
+        <source>command rejected</source>
         <translation>Befehl abgelehnt</translation>
     </message>
     <message>
         <source>completed without error</source>
-        <translation>ohne Fehler beendet</translation>
+        <translation>fehlerfrei abgeschlossen</translation>
     </message>
     <message>
-        <source>completed without error, or none so far</source>
-        <translation>ohne Fehler beendet, oder noch keiner</translation>
+        <source>completed without error, or never run</source>
+        <translation>fehlerfrei abgeschlossen oder nie ausgeführt</translation>
     </message>
     <message>
         <source>conveyance</source>
         <translation>Transport</translation>
     </message>
     <message>
+        <source>could not be read (%1)</source>
+        <translation>nicht lesbar (%1)</translation>
+    </message>
+    <message>
         <source>degraded</source>
-        <translation>beeinträchtigt</translation>
+        <translation>degradiert</translation>
     </message>
     <message>
         <source>device error</source>
         <translation>Gerätefehler</translation>
     </message>
     <message>
-        <source>device gone</source>
-        <translation>Gerät verschwunden</translation>
+        <source>device unavailable</source>
+        <translation>Gerät nicht verfügbar</translation>
     </message>
     <message>
-        <source>drive too large or sense data unknown</source>
-        <translation>Laufwerk zu groß oder Sense-Daten unbekannt</translation>
+        <source>disabled</source>
+        <translation>deaktiviert</translation>
     </message>
     <message>
         <source>drives</source>
         <translation>Laufwerke</translation>
+    </message>
+    <message>
+        <source>electrical failure</source>
+        <translation>elektrischer Fehler</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>aktiviert</translation>
     </message>
     <message>
         <source>error</source>
@@ -935,24 +939,36 @@
         <translation>ausgefallen</translation>
     </message>
     <message>
+        <source>failed in a test segment</source>
+        <translation>in einem Testsegment fehlgeschlagen</translation>
+    </message>
+    <message>
         <source>failed member: %1</source>
-        <translation>ausgefallenes Mitglied: %1</translation>
+        <translation>ausgefallenes Mitgliedslaufwerk: %1</translation>
     </message>
     <message>
         <source>failure predicted</source>
         <translation>Ausfall vorhergesagt</translation>
     </message>
     <message>
+        <source>fatal or unknown error</source>
+        <translation>schwerwiegender oder unbekannter Fehler</translation>
+    </message>
+    <message>
         <source>first failing LBA %1</source>
         <translation>erste fehlerhafte LBA %1</translation>
     </message>
     <message>
-        <source>healthy</source>
-        <translation>gesund</translation>
+        <source>general failure</source>
+        <translation>allgemeiner Fehler</translation>
     </message>
     <message>
-        <source>id %1</source>
-        <translation>Kennung %1</translation>
+        <source>handling damage suspected</source>
+        <translation>Verdacht auf Handhabungsschaden</translation>
+    </message>
+    <message>
+        <source>healthy</source>
+        <translation>in Ordnung</translation>
     </message>
     <message>
         <source>idle</source>
@@ -971,20 +987,24 @@
         <translation>Schnittstellenfehler</translation>
     </message>
     <message>
-        <source>interrupted by a reset or the like</source>
-        <translation>durch einen Reset oder Ähnliches unterbrochen</translation>
+        <source>interrupted by a reset</source>
+        <translation>durch einen Reset unterbrochen</translation>
+    </message>
+    <message>
+        <source>invalid argument</source>
+        <translation>ungültiges Argument</translation>
     </message>
     <message>
         <source>invalid data</source>
         <translation>ungültige Daten</translation>
     </message>
     <message>
-        <source>it keeps the device reserved</source>
-        <translation>es hält das Gerät reserviert</translation>
+        <source>it did not create a module instance</source>
+        <translation>es hat keine Modulinstanz erzeugt</translation>
     </message>
     <message>
-        <source>it made none</source>
-        <translation>es entstand keins</translation>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
     </message>
     <message>
         <source>locked</source>
@@ -1008,23 +1028,19 @@
     </message>
     <message>
         <source>no such file</source>
-        <translation>keine solche Datei</translation>
+        <translation>Datei nicht gefunden</translation>
     </message>
     <message>
-        <source>no usable answer</source>
-        <translation>keine brauchbare Antwort</translation>
-    </message>
-    <message>
-        <source>no vendor driver</source>
-        <translation>kein Treiber des Herstellers</translation>
+        <source>no vendor driver installed</source>
+        <translation>kein Herstellertreiber installiert</translation>
     </message>
     <message>
         <source>none</source>
         <translation>keine</translation>
     </message>
     <message>
-        <source>none that can be loaded (%1)</source>
-        <translation>keine, die sich laden lässt (%1)</translation>
+        <source>none available</source>
+        <translation>keine verfügbar</translation>
     </message>
     <message>
         <source>not answered</source>
@@ -1051,10 +1067,6 @@
         <translation>nicht unterstützt</translation>
     </message>
     <message>
-        <source>not told (%1)</source>
-        <translation>nicht erfahren (%1)</translation>
-    </message>
-    <message>
         <source>not with</source>
         <translation>nicht mit</translation>
     </message>
@@ -1063,28 +1075,16 @@
         <translation>Hinweis</translation>
     </message>
     <message>
-        <source>off</source>
-        <translation>aus</translation>
+        <source>offline data collection</source>
+        <translation>Offline-Datenerfassung</translation>
     </message>
     <message>
-        <source>off-line data collection</source>
-        <translation>Datensammlung im Leerlauf</translation>
-    </message>
-    <message>
-        <source>off-line data collection ends at a command</source>
-        <translation>Datensammlung endet bei einem Befehl</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>ein</translation>
-    </message>
-    <message>
-        <source>one that could not start (%1)</source>
-        <translation>eine, die nicht starten konnte (%1)</translation>
+        <source>offline data collection aborts on new command</source>
+        <translation>Offline-Datenerfassung bricht bei neuem Befehl ab</translation>
     </message>
     <message>
         <source>optimal</source>
-        <translation>in Ordnung</translation>
+        <translation>optimal</translation>
     </message>
     <message>
         <source>other</source>
@@ -1095,48 +1095,48 @@
         <translation>bestanden</translation>
     </message>
     <message>
-        <source>physically %1 bytes</source>
-        <translation>physisch %1 Byte</translation>
-    </message>
-    <message>
         <source>question: %1 %2 (%3)</source>
         <translation>Frage: %1 %2 (%3)</translation>
     </message>
     <message>
-        <source>rebuilding</source>
-        <translation>wird wiederhergestellt</translation>
+        <source>read failure</source>
+        <translation>Lesefehler</translation>
     </message>
     <message>
-        <source>refused by the controller</source>
+        <source>rebuilding</source>
+        <translation>Wiederherstellung läuft</translation>
+    </message>
+    <message>
+        <source>rejected by the controller</source>
         <translation>vom Controller abgelehnt</translation>
     </message>
     <message>
-        <source>request to the system failed</source>
-        <translation>Anfrage an das System fehlgeschlagen</translation>
+        <source>self-test command aborted</source>
+        <translation>Selbsttestbefehl abgebrochen</translation>
     </message>
     <message>
-        <source>self-test not accepted</source>
-        <translation>Selbsttest nicht angenommen</translation>
-    </message>
-    <message>
-        <source>self-test not known</source>
-        <translation>Selbsttest nicht bekannt</translation>
+        <source>self-test command rejected</source>
+        <translation>Selbsttestbefehl abgelehnt</translation>
     </message>
     <message>
         <source>serial number %1</source>
         <translation>Seriennummer %1</translation>
     </message>
     <message>
-        <source>short and extended</source>
-        <translation>kurz und ausführlich</translation>
+        <source>servo or seek failure</source>
+        <translation>Servo- oder Suchfehler</translation>
     </message>
     <message>
-        <source>solid state</source>
-        <translation>Halbleiter</translation>
+        <source>short and extended</source>
+        <translation>kurz und erweitert</translation>
+    </message>
+    <message>
+        <source>solid-state device</source>
+        <translation>keine (SSD)</translation>
     </message>
     <message>
         <source>standby</source>
-        <translation>Bereitschaft</translation>
+        <translation>Standby</translation>
     </message>
     <message>
         <source>state unknown</source>
@@ -1151,32 +1151,24 @@
         <translation>Erfolg</translation>
     </message>
     <message>
-        <source>suspected handling damage</source>
-        <translation>vermutlich durch Handhabung beschädigt</translation>
+        <source>the library does not export %1</source>
+        <translation>die Bibliothek exportiert %1 nicht</translation>
     </message>
     <message>
-        <source>the electrical element failed</source>
-        <translation>das elektrische Element ist ausgefallen</translation>
-    </message>
-    <message>
-        <source>the read element failed</source>
-        <translation>das Leseelement ist ausgefallen</translation>
-    </message>
-    <message>
-        <source>the servo or seek element failed</source>
-        <translation>das Servo- oder Suchelement ist ausgefallen</translation>
-    </message>
-    <message>
-        <source>there are: %1</source>
-        <translation>es gibt: %1</translation>
-    </message>
-    <message>
-        <source>there is none</source>
-        <translation>es gibt keine</translation>
+        <source>the module keeps the device reserved</source>
+        <translation>das Modul hält das Gerät reserviert</translation>
     </message>
     <message>
         <source>unknown</source>
         <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>unknown exception</source>
+        <translation>unbekannte Ausnahme</translation>
+    </message>
+    <message>
+        <source>unknown failure</source>
+        <translation>unbekannter Fehler</translation>
     </message>
     <message>
         <source>unknown protocol</source>

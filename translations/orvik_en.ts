@@ -45,11 +45,11 @@
     </message>
     <message>
         <source>LOGICAL_DISK</source>
-        <translation>Logical disk</translation>
+        <translation>Logical drive</translation>
     </message>
     <message>
         <source>PHYSICAL_DISK</source>
-        <translation>Physical disk</translation>
+        <translation>Physical drive</translation>
     </message>
     <message>
         <source>INDEX</source>
@@ -93,19 +93,19 @@
     </message>
     <message>
         <source>BATTERY_STATUS_TEST_TOOLTIP</source>
-        <translation>Checks that the battery backup unit is present, cool enough and charged</translation>
+        <translation>Checks presence, temperature and voltage of the battery backup unit</translation>
     </message>
     <message>
         <source>ENCLOSURES_STATUS_TEST</source>
-        <translation>Enclosures status test</translation>
+        <translation>Enclosure status test</translation>
     </message>
     <message>
         <source>ENCLOSURES_STATUS_TEST_TOOLTIP</source>
-        <translation>Looks for enclosures that signal a fault</translation>
+        <translation>Checks for enclosures that report a fault</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVES_STATUS_TEST</source>
-        <translation>Logical drives status test</translation>
+        <translation>Logical drive status test</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVES_STATUS_TEST_TOOLTIP</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>CHECK_CONSISTENCY_TEST_TOOLTIP</source>
-        <translation>Lets the controller check that the data of every logical drive is consistent; this can take hours</translation>
+        <translation>Runs the controller's consistency check on every logical drive; this can take hours</translation>
     </message>
     <message>
         <source>RAID_STATUS_TEST</source>
@@ -133,23 +133,23 @@
     </message>
     <message>
         <source>RAID_CONTROLLER_STATUS_TEST_TOOLTIP</source>
-        <translation>Checks that the RAID controller works, is online and powered on</translation>
+        <translation>Checks that the RAID controller is operational, online and powered on</translation>
     </message>
     <message>
         <source>TEST_ABORTED_BECAUSE_A_SYSTEM_EVENT_THAT_COULD_COMPROMISE_THE_OUTCOME_HAS_HAPPENED</source>
-        <translation>Test aborted: a system event has happened that could compromise its outcome</translation>
+        <translation>Test aborted: a system event could have affected the result</translation>
     </message>
     <message>
         <source>THIS_TEST_CANNOT_BE_PERFORMED_BECAUSE_THE_DEVICE_COULD_NOT_BE_IDENTIFIED_OR_HAS_BEEN_DISCONNECTED</source>
-        <translation>This test cannot be performed: the device could not be identified or has been disconnected</translation>
+        <translation>Test not possible: the device could not be identified or has been disconnected</translation>
     </message>
     <message>
         <source>UNABLE_TO_RETRIEVE_DEVICE_PROPERTIES</source>
-        <translation>The properties of the device could not be read</translation>
+        <translation>Could not read the device properties</translation>
     </message>
     <message>
         <source>UNABLE_TO_COMMUNICATE_WITH_INTEL_C600_CONTROLLER</source>
-        <translation>The Intel C600 controller could not be reached</translation>
+        <translation>Could not communicate with the Intel C600 controller</translation>
     </message>
     <message>
         <source>RAID_MAYBE_THE_SATA_MODE_IS_NOT_SET_TO_RAID</source>
@@ -157,19 +157,19 @@
     </message>
     <message>
         <source>CANT_GET_LOGICAL_DRIVES_INFO</source>
-        <translation>The logical drives could not be read</translation>
+        <translation>Could not read the logical drives</translation>
     </message>
     <message>
         <source>NO_LOGICAL_DRIVE_FOUND_SKIPPING_TEST</source>
-        <translation>No logical drive found, the test is skipped</translation>
+        <translation>No logical drive found, skipping the test</translation>
     </message>
     <message>
         <source>UNSUPPORTED_RAID_LEVEL_IN_LOGICAL_DRIVE</source>
-        <translation>RAID level not supported in logical drive</translation>
+        <translation>Unsupported RAID level in logical drive</translation>
     </message>
     <message>
         <source>TEST_DOESNT_SUPPORT_RAID_LEVEL</source>
-        <translation>The test does not support RAID level</translation>
+        <translation>RAID level not supported by this test</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_OPTIMAL</source>
@@ -193,11 +193,11 @@
     </message>
     <message>
         <source>LOGICAL_DRIVE_REBUILDING</source>
-        <translation>Logical drive is being rebuilt</translation>
+        <translation>Logical drive is rebuilding</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_UNKNOWN_STATUS</source>
-        <translation>Status of logical drive is unknown</translation>
+        <translation>Unknown status of logical drive</translation>
     </message>
     <message>
         <source>DRIVE_DOWN</source>
@@ -205,11 +205,11 @@
     </message>
     <message>
         <source>CANNOT_RETRIEVE_CONTROLLER_INFO</source>
-        <translation>The controller information could not be read</translation>
+        <translation>Could not read the controller information</translation>
     </message>
     <message>
         <source>CANT_VERIFY_STATUS_OF_ALL_LOGICAL_DRIVES</source>
-        <translation>The status of some logical drives could not be verified</translation>
+        <translation>Could not verify the status of all logical drives</translation>
     </message>
     <message>
         <source>CHECK_CONSISTENCY_ALREADY_IN_PROGRESS</source>
@@ -221,15 +221,15 @@
     </message>
     <message>
         <source>CANCELLING_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE</source>
-        <translation>Cancelling the consistency check of logical drive</translation>
+        <translation>Cancelling the consistency check on logical drive</translation>
     </message>
     <message>
         <source>CANT_CANCEL_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE</source>
-        <translation>The consistency check could not be cancelled on logical drive</translation>
+        <translation>Could not cancel the consistency check on logical drive</translation>
     </message>
     <message>
         <source>IGNORING_LOGICAL_DRIVE_CHECK_CONSISTENCY_ALREADY_RUNNING</source>
-        <translation>Skipped because a consistency check is already running: logical drive</translation>
+        <translation>Consistency check already running, skipping logical drive</translation>
     </message>
     <message>
         <source>RUNNING_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE</source>
@@ -237,19 +237,19 @@
     </message>
     <message>
         <source>ERROR_RETRIEVING_PROGRESS</source>
-        <translation>The progress could not be read</translation>
+        <translation>Could not read the progress</translation>
     </message>
     <message>
         <source>FAILED_TO_SEND_COMMAND_TO_LOGICAL_DRIVE</source>
-        <translation>A command could not be sent to logical drive</translation>
+        <translation>Could not send a command to logical drive</translation>
     </message>
     <message>
         <source>NO_TESTABLE_LOGICAL_DRIVE_FOUND</source>
-        <translation>No logical drive found that can be tested</translation>
+        <translation>No testable logical drive found</translation>
     </message>
     <message>
         <source>CANNOT_GET_CONSISTENCY_CHECK_RESULT</source>
-        <translation>The result of the consistency check could not be read for logical drive</translation>
+        <translation>Could not read the consistency check result of logical drive</translation>
     </message>
     <message>
         <source>INCONSISTENT_LOGICAL_DRIVE</source>
@@ -261,23 +261,23 @@
     </message>
     <message>
         <source>LOGICAL_DRIVE_SKIPPED_INITIALIZATION_IN_PROGRESS</source>
-        <translation>Skipped because it is being initialised: logical drive</translation>
+        <translation>Initialisation in progress, skipping logical drive</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_NOT_IN_OPTIMAL_STATE</source>
-        <translation>Logical drive is not in optimal state</translation>
+        <translation>Logical drive is not optimal</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_SKIPPED_RECONSTRUCTION_IN_PROGRESS</source>
-        <translation>Skipped because it is being reconstructed: logical drive</translation>
+        <translation>Reconstruction in progress, skipping logical drive</translation>
     </message>
     <message>
         <source>RAID_NOT_SUPPORTED_LOGICAL_DRIVE_WILL_BE_SKIPPED</source>
-        <translation>The logical drive is skipped, its RAID level is not supported</translation>
+        <translation>RAID level not supported, skipping logical drive</translation>
     </message>
     <message>
         <source>LOGICAL_DRIVE_SKIPPED_RESERVED_BY_SCSI_PEER</source>
-        <translation>Skipped because another SCSI system has reserved it: logical drive</translation>
+        <translation>Reserved by another SCSI system, skipping logical drive</translation>
     </message>
     <message>
         <source>RAID_CONTROLLER_HAS_FAILED</source>
@@ -293,7 +293,7 @@
     </message>
     <message>
         <source>CANT_GET_ENCLOSURES_INFO</source>
-        <translation>The enclosures could not be read</translation>
+        <translation>Could not read the enclosures</translation>
     </message>
     <message>
         <source>NO_ENCLOSURES_FOUND</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>CANT_CHECK_BATTERY_BACKUP_UNIT_API_SUPPORT</source>
-        <translation>It could not be found out whether there can be a battery backup unit</translation>
+        <translation>Could not determine whether a battery backup unit is supported</translation>
     </message>
     <message>
         <source>BATTERY_BACKUP_UNIT_NOT_SUPPORTED</source>
@@ -317,23 +317,23 @@
     </message>
     <message>
         <source>CANT_GET_BATTERY_STATUS</source>
-        <translation>The status of the battery could not be read</translation>
+        <translation>Could not read the battery status</translation>
     </message>
     <message>
         <source>BATTERY_BACKUP_UNIT_NOT_PRESENT</source>
-        <translation>There is no battery backup unit</translation>
+        <translation>No battery backup unit present</translation>
     </message>
     <message>
         <source>BATTERY_PACK_MISSING</source>
-        <translation>The battery pack is missing</translation>
+        <translation>Battery pack missing</translation>
     </message>
     <message>
         <source>BATTERY_TEMPERATURE_HIGH</source>
-        <translation>The temperature of the battery is high</translation>
+        <translation>Battery temperature is high</translation>
     </message>
     <message>
         <source>LOW_BATTERY_VOLTAGE</source>
-        <translation>The voltage of the battery is low</translation>
+        <translation>Battery voltage is low</translation>
     </message>
 </context>
 <context>
@@ -343,24 +343,24 @@
         <translation>Orvik Diagnostics</translation>
     </message>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>CANCEL</source>
         <translation>Cancel</translation>
     </message>
     <message>
-        <source>YES</source>
-        <translation>Yes</translation>
+        <source>CLOSE_POP_UP</source>
+        <translation>Close the message</translation>
     </message>
     <message>
         <source>NO</source>
         <translation>No</translation>
     </message>
     <message>
-        <source>CLOSE_POP_UP</source>
-        <translation>Close the message</translation>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>YES</source>
+        <translation>Yes</translation>
     </message>
 </context>
 <context>
@@ -370,20 +370,20 @@
         <translation>%1 bytes</translation>
     </message>
     <message>
-        <source>%1 degrees Celsius</source>
-        <translation>%1 degrees Celsius</translation>
+        <source>%1 bytes physical</source>
+        <translation>%1 bytes physical</translation>
     </message>
     <message>
         <source>%1 of %2 bytes</source>
         <translation>%1 of %2 bytes</translation>
     </message>
     <message>
-        <source>%1 revolutions per minute</source>
-        <translation>%1 revolutions per minute</translation>
+        <source>%1 rpm</source>
+        <translation>%1 rpm</translation>
     </message>
     <message>
-        <source>%1: expected a diagnostics module library, found %2</source>
-        <translation>%1: expected a diagnostics module library, found %2</translation>
+        <source>%1 °C</source>
+        <translation>%1 °C</translation>
     </message>
     <message numerus="yes">
         <source>%n RAID controller(s)</source>
@@ -422,36 +422,32 @@
         <translation>(see %1 --help)</translation>
     </message>
     <message>
-        <source>48-bit addresses</source>
-        <translation>48-bit addresses</translation>
+        <source>48-bit addressing</source>
+        <translation>48-bit addressing</translation>
     </message>
     <message>
-        <source>A self-test is under way already; --abort ends it</source>
-        <translation>A self-test is under way already; --abort ends it</translation>
-    </message>
-    <message>
-        <source>A short self-test; what is done without an option</source>
-        <translation>A short self-test; what is done without an option</translation>
+        <source>A self-test is already running; use --abort to stop it</source>
+        <translation>A self-test is already running; use --abort to stop it</translation>
     </message>
     <message>
         <source>ATA error</source>
         <translation>ATA error</translation>
     </message>
     <message>
-        <source>Abort the self-test under way</source>
-        <translation>Abort the self-test under way</translation>
+        <source>Abort command accepted</source>
+        <translation>Abort command accepted</translation>
     </message>
     <message>
-        <source>An extended self-test</source>
-        <translation>An extended self-test</translation>
+        <source>Abort the running self-test</source>
+        <translation>Abort the running self-test</translation>
+    </message>
+    <message>
+        <source>Answer questions of tests with this button</source>
+        <translation>Answer questions of tests with this button</translation>
     </message>
     <message>
         <source>Arguments</source>
         <translation>Arguments</translation>
-    </message>
-    <message>
-        <source>Ask the member drives for their identification and condition</source>
-        <translation>Ask the member drives for their identification and condition</translation>
     </message>
     <message>
         <source>BUTTON</source>
@@ -466,16 +462,68 @@
         <translation>COMMAND</translation>
     </message>
     <message>
-        <source>Cache (the drive's own figure)</source>
-        <translation>Cache (the drive's own figure)</translation>
+        <source>Cache size (as reported)</source>
+        <translation>Cache size (as reported)</translation>
     </message>
     <message>
         <source>Capacity</source>
         <translation>Capacity</translation>
     </message>
     <message>
+        <source>Check for a RAID controller without a full scan</source>
+        <translation>Check for a RAID controller without a full scan</translation>
+    </message>
+    <message>
         <source>Commands</source>
         <translation>Commands</translation>
+    </message>
+    <message>
+        <source>Could not abort the self-test: %1</source>
+        <translation>Could not abort the self-test: %1</translation>
+    </message>
+    <message>
+        <source>Could not identify the drive (%1)</source>
+        <translation>Could not identify the drive (%1)</translation>
+    </message>
+    <message>
+        <source>Could not load the module %1: %2</source>
+        <translation>Could not load the module %1: %2</translation>
+    </message>
+    <message>
+        <source>Could not read all drives of the controller (%1)</source>
+        <translation>Could not read all drives of the controller (%1)</translation>
+    </message>
+    <message>
+        <source>Could not read the controller's logical drives (%1)</source>
+        <translation>Could not read the controller's logical drives (%1)</translation>
+    </message>
+    <message>
+        <source>Could not read the controller's physical drives (%1)</source>
+        <translation>Could not read the controller's physical drives (%1)</translation>
+    </message>
+    <message>
+        <source>Could not read the controller's properties (%1)</source>
+        <translation>Could not read the controller's properties (%1)</translation>
+    </message>
+    <message>
+        <source>Could not read the progress of the self-test: %1</source>
+        <translation>Could not read the progress of the self-test: %1</translation>
+    </message>
+    <message>
+        <source>Could not read the result of the self-test: %1</source>
+        <translation>Could not read the result of the self-test: %1</translation>
+    </message>
+    <message>
+        <source>Could not start the self-test: %1</source>
+        <translation>Could not start the self-test: %1</translation>
+    </message>
+    <message>
+        <source>Could not start: %1</source>
+        <translation>Could not start: %1</translation>
+    </message>
+    <message>
+        <source>Could not write the output</source>
+        <translation>Could not write the output</translation>
     </message>
     <message>
         <source>DEVICE</source>
@@ -498,12 +546,12 @@
         <translation>Devices</translation>
     </message>
     <message>
-        <source>Diagnose the simulated machine that this file describes</source>
-        <translation>Diagnose the simulated machine that this file describes</translation>
-    </message>
-    <message>
         <source>Drive %1: self-test</source>
         <translation>Drive %1: self-test</translation>
+    </message>
+    <message>
+        <source>Drive ID, or the indexes DEVICE:DRIVE</source>
+        <translation>Drive ID, or the indexes DEVICE:DRIVE</translation>
     </message>
     <message>
         <source>Duration</source>
@@ -522,12 +570,8 @@
         <translation>FILE</translation>
     </message>
     <message>
-        <source>Failure prediction (SMART)</source>
-        <translation>Failure prediction (SMART)</translation>
-    </message>
-    <message>
-        <source>Finds RAID controllers and tests them.</source>
-        <translation>Finds RAID controllers and tests them.</translation>
+        <source>Finds and tests RAID controllers.</source>
+        <translation>Finds and tests RAID controllers.</translation>
     </message>
     <message>
         <source>Firmware</source>
@@ -538,10 +582,6 @@
         <translation>First failing LBA</translation>
     </message>
     <message>
-        <source>For the options of all commands see %1 --help</source>
-        <translation>For the options of all commands see %1 --help</translation>
-    </message>
-    <message>
         <source>Group</source>
         <translation>Group</translation>
     </message>
@@ -550,56 +590,48 @@
         <translation>Health</translation>
     </message>
     <message>
-        <source>Id</source>
-        <translation>Id</translation>
+        <source>I/O request failed</source>
+        <translation>I/O request failed</translation>
     </message>
     <message>
-        <source>Id of the drive, or DEVICE:DRIVE by their indexes</source>
-        <translation>Id of the drive, or DEVICE:DRIVE by their indexes</translation>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
     </message>
     <message>
         <source>Interrupted</source>
         <translation>Interrupted</translation>
     </message>
     <message>
-        <source>It broke off: %1</source>
-        <translation>It broke off: %1</translation>
-    </message>
-    <message>
         <source>Label</source>
         <translation>Label</translation>
     </message>
     <message>
-        <source>Language of the texts, for example de</source>
-        <translation>Language of the texts, for example de</translation>
+        <source>Language of the output, for example de</source>
+        <translation>Language of the output, for example de</translation>
     </message>
     <message>
         <source>Latest self-test</source>
         <translation>Latest self-test</translation>
     </message>
     <message>
-        <source>Let a member drive test itself, or abort what it has begun</source>
-        <translation>Let a member drive test itself, or abort what it has begun</translation>
+        <source>List RAID controllers and their drives</source>
+        <translation>List RAID controllers and their drives</translation>
     </message>
     <message>
-        <source>List the RAID controllers with their disks</source>
-        <translation>List the RAID controllers with their disks</translation>
+        <source>List the tests and the devices they apply to</source>
+        <translation>List the tests and the devices they apply to</translation>
     </message>
     <message>
-        <source>List the tests and the devices that each applies to</source>
-        <translation>List the tests and the devices that each applies to</translation>
+        <source>Logical drives</source>
+        <translation>Logical drives</translation>
     </message>
     <message>
-        <source>Logical disks</source>
-        <translation>Logical disks</translation>
-    </message>
-    <message>
-        <source>Medium</source>
-        <translation>Medium</translation>
-    </message>
-    <message>
-        <source>NVMe drives offer no self-tests here</source>
-        <translation>NVMe drives offer no self-tests here</translation>
+        <source>Mask serial numbers and drive labels with X</source>
+        <translation>Mask serial numbers and drive labels with X</translation>
     </message>
     <message>
         <source>Name</source>
@@ -610,8 +642,12 @@
         <translation>No RAID controller found.</translation>
     </message>
     <message>
-        <source>No command was given</source>
-        <translation>No command was given</translation>
+        <source>No applicable tests.</source>
+        <translation>No applicable tests.</translation>
+    </message>
+    <message>
+        <source>No command given</source>
+        <translation>No command given</translation>
     </message>
     <message>
         <source>No device "%1"</source>
@@ -622,52 +658,36 @@
         <translation>No drive "%1"</translation>
     </message>
     <message>
-        <source>No identification (%1)</source>
-        <translation>No identification (%1)</translation>
-    </message>
-    <message>
         <source>No test "%1"</source>
         <translation>No test "%1"</translation>
     </message>
     <message>
-        <source>Not asked</source>
-        <translation>Not asked</translation>
-    </message>
-    <message>
-        <source>Nothing to test: no test applies.</source>
-        <translation>Nothing to test: no test applies.</translation>
+        <source>Not read</source>
+        <translation>Not read</translation>
     </message>
     <message>
         <source>OPTIONS</source>
         <translation>OPTIONS</translation>
     </message>
     <message>
-        <source>Only devices with this id, or the one with this index</source>
-        <translation>Only devices with this id, or the one with this index</translation>
-    </message>
-    <message>
-        <source>Only the test with this id, key or name</source>
-        <translation>Only the test with this id, key or name</translation>
-    </message>
-    <message>
         <source>Options</source>
         <translation>Options</translation>
     </message>
     <message>
-        <source>Physical disks</source>
-        <translation>Physical disks</translation>
+        <source>Physical drives</source>
+        <translation>Physical drives</translation>
     </message>
     <message>
         <source>Power mode</source>
         <translation>Power mode</translation>
     </message>
     <message>
-        <source>Press this button when a test asks a question</source>
-        <translation>Press this button when a test asks a question</translation>
+        <source>Print output as JSON</source>
+        <translation>Print output as JSON</translation>
     </message>
     <message>
-        <source>Print one JSON document</source>
-        <translation>Print one JSON document</translation>
+        <source>RAID controller found.</source>
+        <translation>RAID controller found.</translation>
     </message>
     <message>
         <source>Remaining life</source>
@@ -678,12 +698,36 @@
         <translation>Result: %1</translation>
     </message>
     <message>
-        <source>Run tests: every test on every device, or those chosen</source>
-        <translation>Run tests: every test on every device, or those chosen</translation>
+        <source>Rotation rate</source>
+        <translation>Rotation rate</translation>
     </message>
     <message>
-        <source>SCSI status not good</source>
-        <translation>SCSI status not good</translation>
+        <source>Run %1 --help for the options of all commands</source>
+        <translation>Run %1 --help for the options of all commands</translation>
+    </message>
+    <message>
+        <source>Run a short self-test (default)</source>
+        <translation>Run a short self-test (default)</translation>
+    </message>
+    <message>
+        <source>Run an extended self-test</source>
+        <translation>Run an extended self-test</translation>
+    </message>
+    <message>
+        <source>Run only the test with this ID, key or name</source>
+        <translation>Run only the test with this ID, key or name</translation>
+    </message>
+    <message>
+        <source>Run tests; by default every test on every device</source>
+        <translation>Run tests; by default every test on every device</translation>
+    </message>
+    <message>
+        <source>SCSI status not GOOD</source>
+        <translation>SCSI status not GOOD</translation>
+    </message>
+    <message>
+        <source>SMART</source>
+        <translation>SMART</translation>
     </message>
     <message>
         <source>Sectors</source>
@@ -698,20 +742,24 @@
         <translation>Self-tests</translation>
     </message>
     <message>
+        <source>Self-tests are not supported on NVMe drives</source>
+        <translation>Self-tests are not supported on NVMe drives</translation>
+    </message>
+    <message>
         <source>Serial number</source>
         <translation>Serial number</translation>
     </message>
     <message>
-        <source>Several drives are called "%1"</source>
-        <translation>Several drives are called "%1"</translation>
+        <source>Several drives match "%1"</source>
+        <translation>Several drives match "%1"</translation>
     </message>
     <message>
         <source>Short self-test</source>
         <translation>Short self-test</translation>
     </message>
     <message>
-        <source>Show an X for each character of a serial number</source>
-        <translation>Show an X for each character of a serial number</translation>
+        <source>Show identity and health of the member drives</source>
+        <translation>Show identity and health of the member drives</translation>
     </message>
     <message>
         <source>Show the version</source>
@@ -734,104 +782,68 @@
         <translation>Standards</translation>
     </message>
     <message>
-        <source>TEST</source>
-        <translation>TEST</translation>
+        <source>Start or abort a self-test on a member drive</source>
+        <translation>Start or abort a self-test on a member drive</translation>
     </message>
     <message>
-        <source>Tell whether there is a RAID controller, without a scan</source>
-        <translation>Tell whether there is a RAID controller, without a scan</translation>
+        <source>TEST</source>
+        <translation>TEST</translation>
     </message>
     <message>
         <source>Temperature</source>
         <translation>Temperature</translation>
     </message>
     <message>
-        <source>The controller did not tell all its drives (%1)</source>
-        <translation>The controller did not tell all its drives (%1)</translation>
+        <source>The device is no longer available</source>
+        <translation>The device is no longer available</translation>
     </message>
     <message>
-        <source>The controller did not tell its logical disks (%1)</source>
-        <translation>The controller did not tell its logical disks (%1)</translation>
+        <source>The module did not execute the task</source>
+        <translation>The module did not execute the task</translation>
     </message>
     <message>
-        <source>The controller did not tell its physical disks (%1)</source>
-        <translation>The controller did not tell its physical disks (%1)</translation>
+        <source>The module lists test %1 but does not create it</source>
+        <translation>The module lists test %1 but does not create it</translation>
     </message>
     <message>
-        <source>The controller did not tell its properties (%1)</source>
-        <translation>The controller did not tell its properties (%1)</translation>
+        <source>The presence check failed: %1</source>
+        <translation>The presence check failed: %1</translation>
     </message>
     <message>
-        <source>The device has gone since the scan</source>
-        <translation>The device has gone since the scan</translation>
+        <source>The presence check returned no result</source>
+        <translation>The presence check returned no result</translation>
     </message>
     <message>
-        <source>The drive does not tell how its self-test ended: %1</source>
-        <translation>The drive does not tell how its self-test ended: %1</translation>
+        <source>The scan did not finish</source>
+        <translation>The scan did not finish</translation>
     </message>
     <message>
-        <source>The drive does not tell how its self-test goes: %1</source>
-        <translation>The drive does not tell how its self-test goes: %1</translation>
+        <source>The scan failed: %1</source>
+        <translation>The scan failed: %1</translation>
     </message>
     <message>
-        <source>The drive was told to abort its self-test</source>
-        <translation>The drive was told to abort its self-test</translation>
-    </message>
-    <message>
-        <source>The module could not start it: %1</source>
-        <translation>The module could not start it: %1</translation>
-    </message>
-    <message>
-        <source>The module did not run it</source>
-        <translation>The module did not run it</translation>
-    </message>
-    <message>
-        <source>The module lists test %1 but does not make it</source>
-        <translation>The module lists test %1 but does not make it</translation>
-    </message>
-    <message>
-        <source>The output could not be written</source>
-        <translation>The output could not be written</translation>
-    </message>
-    <message>
-        <source>The presence check broke off: %1</source>
-        <translation>The presence check broke off: %1</translation>
-    </message>
-    <message>
-        <source>The presence check ended without an answer</source>
-        <translation>The presence check ended without an answer</translation>
-    </message>
-    <message>
-        <source>The scan broke off: %1</source>
-        <translation>The scan broke off: %1</translation>
-    </message>
-    <message>
-        <source>The scan broke off: its end was not reported</source>
-        <translation>The scan broke off: its end was not reported</translation>
-    </message>
-    <message>
-        <source>The self-test came to no verdict: %1</source>
-        <translation>The self-test came to no verdict: %1</translation>
-    </message>
-    <message>
-        <source>The self-test could not be aborted: %1</source>
-        <translation>The self-test could not be aborted: %1</translation>
-    </message>
-    <message>
-        <source>The self-test could not be started: %1</source>
-        <translation>The self-test could not be started: %1</translation>
+        <source>The self-test ended without a result: %1</source>
+        <translation>The self-test ended without a result: %1</translation>
     </message>
     <message>
         <source>The self-test was aborted</source>
         <translation>The self-test was aborted</translation>
     </message>
     <message>
-        <source>There is a RAID controller.</source>
-        <translation>There is a RAID controller.</translation>
+        <source>Unexpected error: %1</source>
+        <translation>Unexpected error: %1</translation>
     </message>
     <message>
         <source>Usage</source>
         <translation>Usage</translation>
+    </message>
+    <message>
+        <source>Use only devices with this ID or index</source>
+        <translation>Use only devices with this ID or index</translation>
+    </message>
+    <message>
+        <source>Use the simulated machine described in this file</source>
+        <translation>Use the simulated machine described in this file</translation>
     </message>
     <message>
         <source>Use this module library instead of the installed one</source>
@@ -840,18 +852,6 @@
     <message>
         <source>Vendor</source>
         <translation>Vendor</translation>
-    </message>
-    <message>
-        <source>a folder</source>
-        <translation>a folder</translation>
-    </message>
-    <message>
-        <source>a library without %1</source>
-        <translation>a library without %1</translation>
-    </message>
-    <message>
-        <source>a segment failed</source>
-        <translation>a segment failed</translation>
     </message>
     <message>
         <source>aborted</source>
@@ -870,36 +870,32 @@
         <translation>active or idle</translation>
     </message>
     <message>
-        <source>an element failed</source>
-        <translation>an element failed</translation>
+        <source>address too large or unknown sense data</source>
+        <translation>address too large or unknown sense data</translation>
     </message>
     <message>
-        <source>an unknown error</source>
-        <translation>an unknown error</translation>
+        <source>available: %1</source>
+        <translation>available: %1</translation>
     </message>
     <message>
-        <source>bad argument</source>
-        <translation>bad argument</translation>
-    </message>
-    <message>
-        <source>broken off by a fatal error</source>
-        <translation>broken off by a fatal error</translation>
-    </message>
-    <message>
-        <source>command refused</source>
-        <translation>command refused</translation>
+        <source>command rejected</source>
+        <translation>command rejected</translation>
     </message>
     <message>
         <source>completed without error</source>
         <translation>completed without error</translation>
     </message>
     <message>
-        <source>completed without error, or none so far</source>
-        <translation>completed without error, or none so far</translation>
+        <source>completed without error, or never run</source>
+        <translation>completed without error, or never run</translation>
     </message>
     <message>
         <source>conveyance</source>
         <translation>conveyance</translation>
+    </message>
+    <message>
+        <source>could not be read (%1)</source>
+        <translation>could not be read (%1)</translation>
     </message>
     <message>
         <source>degraded</source>
@@ -910,16 +906,24 @@
         <translation>device error</translation>
     </message>
     <message>
-        <source>device gone</source>
-        <translation>device gone</translation>
+        <source>device unavailable</source>
+        <translation>device unavailable</translation>
     </message>
     <message>
-        <source>drive too large or sense data unknown</source>
-        <translation>drive too large or sense data unknown</translation>
+        <source>disabled</source>
+        <translation>disabled</translation>
     </message>
     <message>
         <source>drives</source>
         <translation>drives</translation>
+    </message>
+    <message>
+        <source>electrical failure</source>
+        <translation>electrical failure</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>enabled</translation>
     </message>
     <message>
         <source>error</source>
@@ -935,6 +939,10 @@
         <translation>failed</translation>
     </message>
     <message>
+        <source>failed in a test segment</source>
+        <translation>failed in a test segment</translation>
+    </message>
+    <message>
         <source>failed member: %1</source>
         <translation>failed member: %1</translation>
     </message>
@@ -943,16 +951,24 @@
         <translation>failure predicted</translation>
     </message>
     <message>
+        <source>fatal or unknown error</source>
+        <translation>fatal or unknown error</translation>
+    </message>
+    <message>
         <source>first failing LBA %1</source>
         <translation>first failing LBA %1</translation>
     </message>
     <message>
-        <source>healthy</source>
-        <translation>healthy</translation>
+        <source>general failure</source>
+        <translation>general failure</translation>
     </message>
     <message>
-        <source>id %1</source>
-        <translation>id %1</translation>
+        <source>handling damage suspected</source>
+        <translation>handling damage suspected</translation>
+    </message>
+    <message>
+        <source>healthy</source>
+        <translation>healthy</translation>
     </message>
     <message>
         <source>idle</source>
@@ -971,20 +987,24 @@
         <translation>interface error</translation>
     </message>
     <message>
-        <source>interrupted by a reset or the like</source>
-        <translation>interrupted by a reset or the like</translation>
+        <source>interrupted by a reset</source>
+        <translation>interrupted by a reset</translation>
+    </message>
+    <message>
+        <source>invalid argument</source>
+        <translation>invalid argument</translation>
     </message>
     <message>
         <source>invalid data</source>
         <translation>invalid data</translation>
     </message>
     <message>
-        <source>it keeps the device reserved</source>
-        <translation>it keeps the device reserved</translation>
+        <source>it did not create a module instance</source>
+        <translation>it did not create a module instance</translation>
     </message>
     <message>
-        <source>it made none</source>
-        <translation>it made none</translation>
+        <source>it is a folder</source>
+        <translation>it is a folder</translation>
     </message>
     <message>
         <source>locked</source>
@@ -1011,20 +1031,16 @@
         <translation>no such file</translation>
     </message>
     <message>
-        <source>no usable answer</source>
-        <translation>no usable answer</translation>
-    </message>
-    <message>
-        <source>no vendor driver</source>
-        <translation>no vendor driver</translation>
+        <source>no vendor driver installed</source>
+        <translation>no vendor driver installed</translation>
     </message>
     <message>
         <source>none</source>
         <translation>none</translation>
     </message>
     <message>
-        <source>none that can be loaded (%1)</source>
-        <translation>none that can be loaded (%1)</translation>
+        <source>none available</source>
+        <translation>none available</translation>
     </message>
     <message>
         <source>not answered</source>
@@ -1051,10 +1067,6 @@
         <translation>not supported</translation>
     </message>
     <message>
-        <source>not told (%1)</source>
-        <translation>not told (%1)</translation>
-    </message>
-    <message>
         <source>not with</source>
         <translation>not with</translation>
     </message>
@@ -1063,24 +1075,12 @@
         <translation>notice</translation>
     </message>
     <message>
-        <source>off</source>
-        <translation>off</translation>
+        <source>offline data collection</source>
+        <translation>offline data collection</translation>
     </message>
     <message>
-        <source>off-line data collection</source>
-        <translation>off-line data collection</translation>
-    </message>
-    <message>
-        <source>off-line data collection ends at a command</source>
-        <translation>off-line data collection ends at a command</translation>
-    </message>
-    <message>
-        <source>on</source>
-        <translation>on</translation>
-    </message>
-    <message>
-        <source>one that could not start (%1)</source>
-        <translation>one that could not start (%1)</translation>
+        <source>offline data collection aborts on new command</source>
+        <translation>offline data collection aborts on new command</translation>
     </message>
     <message>
         <source>optimal</source>
@@ -1095,44 +1095,44 @@
         <translation>passed</translation>
     </message>
     <message>
-        <source>physically %1 bytes</source>
-        <translation>physically %1 bytes</translation>
-    </message>
-    <message>
         <source>question: %1 %2 (%3)</source>
         <translation>question: %1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>read failure</source>
+        <translation>read failure</translation>
     </message>
     <message>
         <source>rebuilding</source>
         <translation>rebuilding</translation>
     </message>
     <message>
-        <source>refused by the controller</source>
-        <translation>refused by the controller</translation>
+        <source>rejected by the controller</source>
+        <translation>rejected by the controller</translation>
     </message>
     <message>
-        <source>request to the system failed</source>
-        <translation>request to the system failed</translation>
+        <source>self-test command aborted</source>
+        <translation>self-test command aborted</translation>
     </message>
     <message>
-        <source>self-test not accepted</source>
-        <translation>self-test not accepted</translation>
-    </message>
-    <message>
-        <source>self-test not known</source>
-        <translation>self-test not known</translation>
+        <source>self-test command rejected</source>
+        <translation>self-test command rejected</translation>
     </message>
     <message>
         <source>serial number %1</source>
         <translation>serial number %1</translation>
     </message>
     <message>
+        <source>servo or seek failure</source>
+        <translation>servo or seek failure</translation>
+    </message>
+    <message>
         <source>short and extended</source>
         <translation>short and extended</translation>
     </message>
     <message>
-        <source>solid state</source>
-        <translation>solid state</translation>
+        <source>solid-state device</source>
+        <translation>solid-state device</translation>
     </message>
     <message>
         <source>standby</source>
@@ -1151,32 +1151,24 @@
         <translation>success</translation>
     </message>
     <message>
-        <source>suspected handling damage</source>
-        <translation>suspected handling damage</translation>
+        <source>the library does not export %1</source>
+        <translation>the library does not export %1</translation>
     </message>
     <message>
-        <source>the electrical element failed</source>
-        <translation>the electrical element failed</translation>
-    </message>
-    <message>
-        <source>the read element failed</source>
-        <translation>the read element failed</translation>
-    </message>
-    <message>
-        <source>the servo or seek element failed</source>
-        <translation>the servo or seek element failed</translation>
-    </message>
-    <message>
-        <source>there are: %1</source>
-        <translation>there are: %1</translation>
-    </message>
-    <message>
-        <source>there is none</source>
-        <translation>there is none</translation>
+        <source>the module keeps the device reserved</source>
+        <translation>the module keeps the device reserved</translation>
     </message>
     <message>
         <source>unknown</source>
         <translation>unknown</translation>
+    </message>
+    <message>
+        <source>unknown exception</source>
+        <translation>unknown exception</translation>
+    </message>
+    <message>
+        <source>unknown failure</source>
+        <translation>unknown failure</translation>
     </message>
     <message>
         <source>unknown protocol</source>

@@ -33,9 +33,9 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& options) {
   const std::string file = QCoreApplication::translate("orvik-diag", "FILE").toStdString();
   app.set_version_flag("--version", version.toStdString(),
                        QCoreApplication::translate("orvik-diag", "Show the version").toStdString());
-  app.add_option("--machine", options.machineFile,
-                 QCoreApplication::translate("orvik-diag", "Diagnose the simulated machine that this file describes")
-                     .toStdString())
+  app.add_option(
+         "--machine", options.machineFile,
+         QCoreApplication::translate("orvik-diag", "Use the simulated machine described in this file").toStdString())
       ->type_name(file);
   app.add_option("--module", options.moduleFile,
                  QCoreApplication::translate("orvik-diag", "Use this module library instead of the installed one")
@@ -43,18 +43,18 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& options) {
       ->type_name(file);
   app.add_flag(
       "--hide-serials", options.hideSerials,
-      QCoreApplication::translate("orvik-diag", "Show an X for each character of a serial number").toStdString());
+      QCoreApplication::translate("orvik-diag", "Mask serial numbers and drive labels with X").toStdString());
   // Without variables: `WantsJson` and `WantedLanguage` have read these two.
-  const std::string aboutJson = QCoreApplication::translate("orvik-diag", "Print one JSON document").toStdString();
+  const std::string aboutJson = QCoreApplication::translate("orvik-diag", "Print output as JSON").toStdString();
   app.add_flag("--json", aboutJson);
   const std::string aboutLanguage =
-      QCoreApplication::translate("orvik-diag", "Language of the texts, for example de").toStdString();
+      QCoreApplication::translate("orvik-diag", "Language of the output, for example de").toStdString();
   app.add_option("--lang", aboutLanguage)->type_name(QCoreApplication::translate("orvik-diag", "CODE").toStdString());
 }
 
 void AddCommands(CLI::App& app, const std::vector<std::unique_ptr<Command>>& commands, Command*& chosen) {
   const std::string group = QCoreApplication::translate("orvik-diag", "Commands").toStdString();
-  const QString footer = QCoreApplication::translate("orvik-diag", "For the options of all commands see %1 --help")
+  const QString footer = QCoreApplication::translate("orvik-diag", "Run %1 --help for the options of all commands")
                              .arg(QCoreApplication::applicationName());
   for (const auto& command : commands) {
     CLI::App* const subcommand = app.add_subcommand(command->Name(), command->Description().toStdString());
@@ -86,7 +86,7 @@ Result<ParsedCommandLine> ParseCommandLine(const QStringList& arguments,
                                            const std::vector<std::unique_ptr<Command>>& commands) {
   GlobalOptions options;
   Request request;
-  CLI::App app(QCoreApplication::translate("orvik-diag", "Finds RAID controllers and tests them.").toStdString(),
+  CLI::App app(QCoreApplication::translate("orvik-diag", "Finds and tests RAID controllers.").toStdString(),
                QCoreApplication::applicationName().toStdString());
   DescribeHelp(app);
   AddGlobalOptions(app, options);
@@ -100,8 +100,7 @@ Result<ParsedCommandLine> ParseCommandLine(const QStringList& arguments,
   } catch (const CLI::ParseError& error) {
     return UsageError(QString::fromStdString(error.what()));
   }
-  if (request.command == nullptr)
-    return UsageError(QCoreApplication::translate("orvik-diag", "No command was given"));
+  if (request.command == nullptr) return UsageError(QCoreApplication::translate("orvik-diag", "No command given"));
   if (options.machineFile) request.machineFile = QString::fromStdString(*options.machineFile);
   request.moduleFile = QString::fromStdString(options.moduleFile);
   request.hideSerials = options.hideSerials;

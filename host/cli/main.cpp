@@ -66,7 +66,7 @@ int Print(const Output& output, OutputFormat format) {
   const QByteArray text =
       format == OutputFormat::Json ? JsonDocument(output.command, output.module, report) : report.text.toUtf8();
   if (Write(Stream::Output, text)) return static_cast<int>(report.exitCode);
-  WriteError(QCoreApplication::translate("orvik-diag", "The output could not be written"));
+  WriteError(QCoreApplication::translate("orvik-diag", "Could not write the output"));
   return static_cast<int>(ExitCode::CouldNotTell);
 }
 

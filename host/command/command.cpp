@@ -45,7 +45,7 @@ CLI::Option* AddListOption(CLI::App& options, const char* name, std::vector<std:
 
 void AddDeviceOption(CLI::App& options, std::vector<std::string>& values) {
   AddListOption(options, "--device", values,
-                QCoreApplication::translate("orvik-diag", "Only devices with this id, or the one with this index"))
+                QCoreApplication::translate("orvik-diag", "Use only devices with this ID or index"))
       ->type_name(QCoreApplication::translate("orvik-diag", "DEVICE").toStdString());
 }
 

@@ -14,7 +14,8 @@ namespace {
 // Why the drive was not identified or not read to the end; empty if it was.
 QString ProblemOf(const Drive& drive) {
   if (!drive.problem.isEmpty() || !drive.status || drive.IsIdentified()) return drive.problem;
-  return QCoreApplication::translate("orvik-diag", "No identification (%1)").arg(StatusText(*drive.status));
+  return QCoreApplication::translate("orvik-diag", "Could not identify the drive (%1)")
+      .arg(StatusText(*drive.status));
 }
 
 class DrivesCommand final : public Command {
@@ -22,7 +23,7 @@ class DrivesCommand final : public Command {
   const char* Name() const override { return "drives"; }
 
   QString Description() const override {
-    return QCoreApplication::translate("orvik-diag", "Ask the member drives for their identification and condition");
+    return QCoreApplication::translate("orvik-diag", "Show identity and health of the member drives");
   }
 
   void AddOptions(CLI::App& options) override { AddDeviceOption(options, deviceNames_); }

@@ -17,7 +17,7 @@ class ScanCommand final : public Command {
   const char* Name() const override { return "scan"; }
 
   QString Description() const override {
-    return QCoreApplication::translate("orvik-diag", "List the RAID controllers with their disks");
+    return QCoreApplication::translate("orvik-diag", "List RAID controllers and their drives");
   }
 
   Result<Report> Execute(const CommandContext& context) override {
@@ -56,7 +56,7 @@ class PresenceCommand final : public Command {
   const char* Name() const override { return "presence"; }
 
   QString Description() const override {
-    return QCoreApplication::translate("orvik-diag", "Tell whether there is a RAID controller, without a scan");
+    return QCoreApplication::translate("orvik-diag", "Check for a RAID controller without a full scan");
   }
 
   Result<Report> Execute(const CommandContext& context) override {
@@ -67,7 +67,7 @@ class PresenceCommand final : public Command {
     if (context.format == OutputFormat::Json) {
       report.sections["present"] = present.Value();
     } else {
-      report.text = present.Value() ? QCoreApplication::translate("orvik-diag", "There is a RAID controller.")
+      report.text = present.Value() ? QCoreApplication::translate("orvik-diag", "RAID controller found.")
                                     : QCoreApplication::translate("orvik-diag", "No RAID controller found.");
       report.text += u'\n';
     }
@@ -80,7 +80,7 @@ class ListTestsCommand final : public Command {
   const char* Name() const override { return "tests"; }
 
   QString Description() const override {
-    return QCoreApplication::translate("orvik-diag", "List the tests and the devices that each applies to");
+    return QCoreApplication::translate("orvik-diag", "List the tests and the devices they apply to");
   }
 
   Result<Report> Execute(const CommandContext& context) override {

@@ -15,18 +15,18 @@ class RunTestsCommand final : public Command {
   const char* Name() const override { return "test"; }
 
   QString Description() const override {
-    return QCoreApplication::translate("orvik-diag", "Run tests: every test on every device, or those chosen");
+    return QCoreApplication::translate("orvik-diag", "Run tests; by default every test on every device");
   }
 
   void AddOptions(CLI::App& options) override {
     AddDeviceOption(options, deviceNames_);
     AddListOption(options, "--only", testNames_,
-                  QCoreApplication::translate("orvik-diag", "Only the test with this id, key or name"))
+                  QCoreApplication::translate("orvik-diag", "Run only the test with this ID, key or name"))
         ->type_name(QCoreApplication::translate("orvik-diag", "TEST").toStdString());
     options
         .add_option(
             "--answer", answer_,
-            QCoreApplication::translate("orvik-diag", "Press this button when a test asks a question").toStdString())
+            QCoreApplication::translate("orvik-diag", "Answer questions of tests with this button").toStdString())
         ->type_name(QCoreApplication::translate("orvik-diag", "BUTTON").toStdString())
         ->check(CLI::IsMember({"ok", "cancel", "yes", "no"}, CLI::ignore_case));
   }

@@ -17,23 +17,21 @@ class SelfTestCommand final : public Command {
   const char* Name() const override { return "selftest"; }
 
   QString Description() const override {
-    return QCoreApplication::translate("orvik-diag", "Let a member drive test itself, or abort what it has begun");
+    return QCoreApplication::translate("orvik-diag", "Start or abort a self-test on a member drive");
   }
 
   void AddOptions(CLI::App& options) override {
     options
         .add_option("drive", driveName_,
-                    QCoreApplication::translate("orvik-diag", "Id of the drive, or DEVICE:DRIVE by their indexes")
-                        .toStdString())
+                    QCoreApplication::translate("orvik-diag", "Drive ID, or the indexes DEVICE:DRIVE").toStdString())
         ->type_name(QCoreApplication::translate("orvik-diag", "DRIVE").toStdString())
         ->required();
-    CLI::Option* const shortTest =
-        AddFlag(options, "--short", short_,
-                QCoreApplication::translate("orvik-diag", "A short self-test; what is done without an option"));
-    CLI::Option* const extended =
-        AddFlag(options, "--extended", extended_, QCoreApplication::translate("orvik-diag", "An extended self-test"));
-    CLI::Option* const abort = AddFlag(options, "--abort", abort_,
-                                       QCoreApplication::translate("orvik-diag", "Abort the self-test under way"));
+    CLI::Option* const shortTest = AddFlag(
+        options, "--short", short_, QCoreApplication::translate("orvik-diag", "Run a short self-test (default)"));
+    CLI::Option* const extended = AddFlag(options, "--extended", extended_,
+                                          QCoreApplication::translate("orvik-diag", "Run an extended self-test"));
+    CLI::Option* const abort =
+        AddFlag(options, "--abort", abort_, QCoreApplication::translate("orvik-diag", "Abort the running self-test"));
     shortTest->excludes(extended)->excludes(abort);
     extended->excludes(abort);
   }

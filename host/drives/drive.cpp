@@ -72,32 +72,29 @@ void ReadSelfTests(Drive& drive, const std::vector<DriveAccess>& accesses) {
 
 Word AtaSelfTestWord(std::uint8_t code) {
   switch (code) {
-    case 3:
-      return {"fatal-error", QCoreApplication::translate("orvik-diag", "broken off by a fatal error"), Colour::Red};
-    case 4: return {"element-failed", QCoreApplication::translate("orvik-diag", "an element failed"), Colour::Red};
+    case 3: return {"fatal-error", QCoreApplication::translate("orvik-diag", "fatal or unknown error"), Colour::Red};
+    case 4: return {"element-failed", QCoreApplication::translate("orvik-diag", "unknown failure"), Colour::Red};
     case 5:
-      return {"electrical-element-failed", QCoreApplication::translate("orvik-diag", "the electrical element failed"),
+      return {"electrical-element-failed", QCoreApplication::translate("orvik-diag", "electrical failure"),
               Colour::Red};
     case 6:
-      return {"servo-element-failed", QCoreApplication::translate("orvik-diag", "the servo or seek element failed"),
+      return {"servo-element-failed", QCoreApplication::translate("orvik-diag", "servo or seek failure"),
               Colour::Red};
-    case 7:
-      return {"read-element-failed", QCoreApplication::translate("orvik-diag", "the read element failed"),
-              Colour::Red};
+    case 7: return {"read-element-failed", QCoreApplication::translate("orvik-diag", "read failure"), Colour::Red};
     case 8:
-      return {"handling-damage", QCoreApplication::translate("orvik-diag", "suspected handling damage"), Colour::Red};
+      return {"handling-damage", QCoreApplication::translate("orvik-diag", "handling damage suspected"), Colour::Red};
     default: return {"unknown", QCoreApplication::translate("orvik-diag", "unknown"), Colour::Plain};
   }
 }
 
 Word ScsiSelfTestWord(std::uint8_t code) {
   switch (code) {
-    case 3:
-      return {"fatal-error", QCoreApplication::translate("orvik-diag", "broken off by a fatal error"), Colour::Red};
+    case 3: return {"fatal-error", QCoreApplication::translate("orvik-diag", "fatal or unknown error"), Colour::Red};
     case 4:
     case 5:
     case 6:
-    case 7: return {"segment-failed", QCoreApplication::translate("orvik-diag", "a segment failed"), Colour::Red};
+    case 7:
+      return {"segment-failed", QCoreApplication::translate("orvik-diag", "failed in a test segment"), Colour::Red};
     default: return {"unknown", QCoreApplication::translate("orvik-diag", "unknown"), Colour::Plain};
   }
 }
@@ -200,8 +197,7 @@ Word SelfTestWord(std::uint8_t code, bool isAta) {
     case 1:
       return {"aborted-by-host", QCoreApplication::translate("orvik-diag", "aborted by the host"), Colour::Yellow};
     case 2:
-      return {"interrupted", QCoreApplication::translate("orvik-diag", "interrupted by a reset or the like"),
-              Colour::Yellow};
+      return {"interrupted", QCoreApplication::translate("orvik-diag", "interrupted by a reset"), Colour::Yellow};
     case 15: return {"in-progress", QCoreApplication::translate("orvik-diag", "in progress"), Colour::Cyan};
     default: return isAta ? AtaSelfTestWord(code) : ScsiSelfTestWord(code);
   }

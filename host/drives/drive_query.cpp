@@ -85,7 +85,7 @@ QStringList ProblemsOf(const DriveQuery& query) {
   QStringList problems;
   if (!query.outcome.Ok()) problems += query.outcome.Error().text;
   if (!query.status.Ok()) {
-    problems += QCoreApplication::translate("orvik-diag", "The controller did not tell all its drives (%1)")
+    problems += QCoreApplication::translate("orvik-diag", "Could not read all drives of the controller (%1)")
                     .arg(StatusText(query.status));
   }
   return problems;
@@ -99,9 +99,8 @@ Result<ChosenDrive> ChooseDrive(const DriveQueryList& lists, const std::string& 
   }
   if (found.size() == 1) return found.front();
 
-  const QString problem = found.empty()
-                              ? QCoreApplication::translate("orvik-diag", "No drive \"%1\"")
-                              : QCoreApplication::translate("orvik-diag", "Several drives are called \"%1\"");
+  const QString problem = found.empty() ? QCoreApplication::translate("orvik-diag", "No drive \"%1\"")
+                                        : QCoreApplication::translate("orvik-diag", "Several drives match \"%1\"");
   const auto all = [](const ChosenDrive&) { return true; };
   return Error{WithChoices(problem.arg(DisplayText(wanted)), Names(found.empty() ? Matching(lists, all) : found))};
 }

@@ -32,8 +32,7 @@ bool HasNoSelfTests(const Drive& drive) {
 }
 
 Error NotAborted(Status status) {
-  return {
-      QCoreApplication::translate("orvik-diag", "The self-test could not be aborted: %1").arg(StatusText(status))};
+  return {QCoreApplication::translate("orvik-diag", "Could not abort the self-test: %1").arg(StatusText(status))};
 }
 
 }  // namespace
@@ -55,7 +54,7 @@ RunOutcome SelfTestRun::Perform() {
   if (locked == nullptr) return DeviceGone();
   Identify(drive);
   if (HasNoSelfTests(drive)) {
-    return Error{QCoreApplication::translate("orvik-diag", "NVMe drives offer no self-tests here")};
+    return Error{QCoreApplication::translate("orvik-diag", "Self-tests are not supported on NVMe drives")};
   }
   const std::vector<DriveAccess> accesses = AccessesOf(drive);
   if (accesses.empty()) return Error{StatusText(status::kFailure)};
@@ -65,12 +64,12 @@ RunOutcome SelfTestRun::Perform() {
 
   const Reading<std::uint8_t> before = Read(access, &Protocol::GetSelfTestResult);
   if (before.value && EndOf(*before.value, access.isAta) == SelfTestEnd::InProgress) {
-    return Error{QCoreApplication::translate("orvik-diag", "A self-test is under way already; --abort ends it")};
+    return Error{QCoreApplication::translate("orvik-diag", "A self-test is already running; use --abort to stop it")};
   }
   report.status = Status(access.protocol->StartSelfTest(CodeOf(kind), 0));
   if (report.status->Ok()) return Follow(access);
-  return Error{QCoreApplication::translate("orvik-diag", "The self-test could not be started: %1")
-                   .arg(StatusText(*report.status))};
+  return Error{
+      QCoreApplication::translate("orvik-diag", "Could not start the self-test: %1").arg(StatusText(*report.status))};
 }
 
 RunOutcome SelfTestRun::Abort(const DriveAccess& access) {
@@ -85,7 +84,7 @@ RunOutcome SelfTestRun::Follow(const DriveAccess& access) {
     const bool isEmpty = !report.result.value && !report.progress;
     emptyPolls = isEmpty ? emptyPolls + 1 : 0;
     if (emptyPolls == kMostEmptyPolls) {
-      return Error{QCoreApplication::translate("orvik-diag", "The drive does not tell how its self-test goes: %1")
+      return Error{QCoreApplication::translate("orvik-diag", "Could not read the progress of the self-test: %1")
                        .arg(StatusText(report.result.status))};
     }
     if (WaitForNextPoll()) continue;
@@ -108,7 +107,7 @@ bool SelfTestRun::IsOver(const DriveAccess& access) {
 
 RunOutcome SelfTestRun::Conclude(const DriveAccess& access) {
   if (!report.result.value) {
-    return Error{QCoreApplication::translate("orvik-diag", "The drive does not tell how its self-test ended: %1")
+    return Error{QCoreApplication::translate("orvik-diag", "Could not read the result of the self-test: %1")
                      .arg(StatusText(report.result.status))};
   }
   switch (EndOf(*report.result.value, access.isAta)) {
@@ -120,7 +119,7 @@ RunOutcome SelfTestRun::Conclude(const DriveAccess& access) {
     case SelfTestEnd::InProgress:
     case SelfTestEnd::Unknown: break;
   }
-  return Error{QCoreApplication::translate("orvik-diag", "The self-test came to no verdict: %1")
+  return Error{QCoreApplication::translate("orvik-diag", "The self-test ended without a result: %1")
                    .arg(SelfTestWord(*report.result.value, access.isAta).shown)};
 }
 

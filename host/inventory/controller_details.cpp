@@ -121,15 +121,15 @@ ControllerDetails ReadControllerDetails(const ListedDevice& listed) {
     auto& raid = static_cast<RaidDevice&>(*device);
     details.info = ValueOrNote(
         Read(raid, &RaidDevice::GetControllerInfo,
-             QCoreApplication::translate("orvik-diag", "The controller did not tell its properties (%1)")),
+             QCoreApplication::translate("orvik-diag", "Could not read the controller's properties (%1)")),
         details.errors);
     logicalDrives = ValueOrNote(
         Read(raid, &RaidDevice::GetLogicalDrives,
-             QCoreApplication::translate("orvik-diag", "The controller did not tell its logical disks (%1)")),
+             QCoreApplication::translate("orvik-diag", "Could not read the controller's logical drives (%1)")),
         details.errors);
     physicalDrives = ValueOrNote(
         Read(raid, &RaidDevice::GetPhysicalDrives,
-             QCoreApplication::translate("orvik-diag", "The controller did not tell its physical disks (%1)")),
+             QCoreApplication::translate("orvik-diag", "Could not read the controller's physical drives (%1)")),
         details.errors);
   } else {
     details.errors += DeviceGone().text;

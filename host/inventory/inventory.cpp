@@ -74,10 +74,10 @@ Result<std::vector<ListedDevice>> ScanDevices(core::DeviceScanner& scanner) {
   try {
     scanner.Scan(collector);
   } catch (const std::exception& exception) {
-    return Error{QCoreApplication::translate("orvik-diag", "The scan broke off: %1").arg(CauseOf(exception))};
+    return Error{QCoreApplication::translate("orvik-diag", "The scan failed: %1").arg(CauseOf(exception))};
   }
   if (!collector->finished) {
-    return Error{QCoreApplication::translate("orvik-diag", "The scan broke off: its end was not reported")};
+    return Error{QCoreApplication::translate("orvik-diag", "The scan did not finish")};
   }
 
   const std::vector<std::weak_ptr<core::Device>> found = scanner.GetDevices();
@@ -95,11 +95,10 @@ Result<bool> CheckPresence(core::DeviceScanner& scanner) {
   try {
     scanner.CheckPresence(collector);
   } catch (const std::exception& exception) {
-    return Error{
-        QCoreApplication::translate("orvik-diag", "The presence check broke off: %1").arg(CauseOf(exception))};
+    return Error{QCoreApplication::translate("orvik-diag", "The presence check failed: %1").arg(CauseOf(exception))};
   }
   if (!collector->present) {
-    return Error{QCoreApplication::translate("orvik-diag", "The presence check ended without an answer")};
+    return Error{QCoreApplication::translate("orvik-diag", "The presence check returned no result")};
   }
   return *collector->present;
 }
@@ -110,7 +109,7 @@ TestList ListTests(const core::Module& module, const Translations& translations)
     std::unique_ptr<core::Test> test = module.CreateTest(id);
     if (test == nullptr) {
       list.errors +=
-          QCoreApplication::translate("orvik-diag", "The module lists test %1 but does not make it").arg(id);
+          QCoreApplication::translate("orvik-diag", "The module lists test %1 but does not create it").arg(id);
       continue;
     }
     const std::string& nameKey = test->Descriptor().nameKey;
@@ -122,7 +121,7 @@ TestList ListTests(const core::Module& module, const Translations& translations)
 }
 
 Error DeviceGone() {
-  return {QCoreApplication::translate("orvik-diag", "The device has gone since the scan")};
+  return {QCoreApplication::translate("orvik-diag", "The device is no longer available")};
 }
 
 bool AppliesTo(const ListedTest& test, const ListedDevice& device) {

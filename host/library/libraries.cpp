@@ -45,15 +45,15 @@ QString ModulePath(const QString& file, bool simulated) {
   return QDir(QCoreApplication::applicationDirPath()).filePath(kInstalledModule + kSuffix);
 }
 
-Error NotAModule(const QString& path, const QString& found) {
-  return {QCoreApplication::translate("orvik-diag", "%1: expected a diagnostics module library, found %2")
-              .arg(QDir::toNativeSeparators(path), found.simplified())};
+Error NotLoaded(const QString& path, const QString& cause) {
+  return {QCoreApplication::translate("orvik-diag", "Could not load the module %1: %2")
+              .arg(QDir::toNativeSeparators(path), cause.simplified())};
 }
 
 QString LoadProblem(const QFileInfo& file, const QLibrary& library) {
-  if (file.isDir()) return QCoreApplication::translate("orvik-diag", "a folder");
+  if (file.isDir()) return QCoreApplication::translate("orvik-diag", "it is a folder");
   if (!file.exists()) return QCoreApplication::translate("orvik-diag", "no such file");
-  return QCoreApplication::translate("orvik-diag", "none that can be loaded (%1)").arg(library.errorString());
+  return library.errorString();
 }
 
 }  // namespace
@@ -77,25 +77,23 @@ Result<std::unique_ptr<ModuleLibrary>> ModuleLibrary::Open(const QString& file, 
   const QString path = ModulePath(file, simulated);
   // Never unloaded: what the module handed out may need its code until the program ends.
   QLibrary library(path);
-  if (!library.load()) return NotAModule(path, LoadProblem(QFileInfo(path), library));
+  if (!library.load()) return NotLoaded(path, LoadProblem(QFileInfo(path), library));
 
   auto* const create = reinterpret_cast<CreateModuleInstanceFunction*>(library.resolve("CreateModuleInstance"));
   auto* const destroy = reinterpret_cast<DestroyModuleInstanceFunction*>(library.resolve("DestroyModuleInstance"));
   if (create == nullptr || destroy == nullptr) {
     const QString missing = QLatin1String(create == nullptr ? "CreateModuleInstance" : "DestroyModuleInstance");
-    return NotAModule(path, QCoreApplication::translate("orvik-diag", "a library without %1").arg(missing));
+    return NotLoaded(path, QCoreApplication::translate("orvik-diag", "the library does not export %1").arg(missing));
   }
 
   core::Module* module = nullptr;
-  QString cause = QCoreApplication::translate("orvik-diag", "it made none");
+  QString cause = QCoreApplication::translate("orvik-diag", "it did not create a module instance");
   try {
     module = create();
   } catch (const std::exception& exception) {
     cause = CauseOf(exception);
   }
-  if (module == nullptr) {
-    return NotAModule(path, QCoreApplication::translate("orvik-diag", "one that could not start (%1)").arg(cause));
-  }
+  if (module == nullptr) return NotLoaded(path, cause);
   return std::unique_ptr<ModuleLibrary>(new ModuleLibrary(module, destroy));
 }
 

@@ -171,7 +171,7 @@ QJsonArray DevicesJson(const std::vector<ListedDevice>& devices) {
 QString DeviceHeading(const ListedDevice& device, const Palette& palette) {
   return QStringLiteral("[%1] %2 (%3)")
       .arg(QString::number(device.index), palette.Paint(Colour::Bold, DisplayText(device.description.name)),
-           QCoreApplication::translate("orvik-diag", "id %1").arg(DisplayText(device.description.id)));
+           QCoreApplication::translate("orvik-diag", "ID %1").arg(DisplayText(device.description.id)));
 }
 
 QString DeviceTree(const ListedDevice& device, const ControllerDetails& details, const Palette& palette) {
@@ -180,7 +180,7 @@ QString DeviceTree(const ListedDevice& device, const ControllerDetails& details,
   for (const QString& error : details.errors) tree += Indented(2, palette.Paint(Colour::Red, error));
 
   if (!details.logicalDisks.empty()) {
-    tree += Indented(2, QCoreApplication::translate("orvik-diag", "Logical disks"));
+    tree += Indented(2, QCoreApplication::translate("orvik-diag", "Logical drives"));
   }
   for (const LogicalDisk& disk : details.logicalDisks) {
     tree += Indented(3, LogicalDiskLine(disk, palette));
@@ -191,7 +191,7 @@ QString DeviceTree(const ListedDevice& device, const ControllerDetails& details,
   }
 
   if (!details.physicalDisks.empty()) {
-    tree += Indented(2, QCoreApplication::translate("orvik-diag", "Physical disks"));
+    tree += Indented(2, QCoreApplication::translate("orvik-diag", "Physical drives"));
   }
   for (const PhysicalDisk& disk : details.physicalDisks) tree += Indented(3, PhysicalDiskLine(disk));
   return tree;

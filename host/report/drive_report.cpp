@@ -133,8 +133,9 @@ QString ReadingText(const Reading<Value>& reading, const QString& value, const P
   if (reading.status.Ok()) {
     return QCoreApplication::translate("orvik-diag", "not reported");
   }
-  return palette.Paint(Colour::Yellow,
-                       QCoreApplication::translate("orvik-diag", "not told (%1)").arg(StatusText(reading.status)));
+  return palette.Paint(
+      Colour::Yellow,
+      QCoreApplication::translate("orvik-diag", "could not be read (%1)").arg(StatusText(reading.status)));
 }
 
 QString CapacityText(const Drive& drive) {
@@ -151,13 +152,13 @@ QString SectorsText(const ProtocolProperties& known) {
       QCoreApplication::translate("orvik-diag", "%1 of %2 bytes").arg(known.sectorCount).arg(known.logicalSectorSize);
   if (known.physicalSectorSize == 0) return text;
   return QStringLiteral("%1, %2").arg(
-      text, QCoreApplication::translate("orvik-diag", "physically %1 bytes").arg(known.physicalSectorSize));
+      text, QCoreApplication::translate("orvik-diag", "%1 bytes physical").arg(known.physicalSectorSize));
 }
 
 QString MediumText(const ProtocolProperties& known) {
-  if (known.isSolidState) return QCoreApplication::translate("orvik-diag", "solid state");
+  if (known.isSolidState) return QCoreApplication::translate("orvik-diag", "solid-state device");
   if (known.rotationRate == 0) return {};
-  return QCoreApplication::translate("orvik-diag", "%1 revolutions per minute").arg(known.rotationRate);
+  return QCoreApplication::translate("orvik-diag", "%1 rpm").arg(known.rotationRate);
 }
 
 QString SwitchText(bool supported, bool on, const QString& whenOn, const QString& whenOff) {
@@ -169,9 +170,9 @@ QString SelfTestKinds(const ProtocolProperties& known) {
   QStringList kinds;
   if (known.selfTestSupported) kinds += QCoreApplication::translate("orvik-diag", "short and extended");
   if (known.conveyanceSelfTestSupported) kinds += QCoreApplication::translate("orvik-diag", "conveyance");
-  if (known.offlineImmediateSupported) kinds += QCoreApplication::translate("orvik-diag", "off-line data collection");
+  if (known.offlineImmediateSupported) kinds += QCoreApplication::translate("orvik-diag", "offline data collection");
   if (known.offlineAbortSupported) {
-    kinds += QCoreApplication::translate("orvik-diag", "off-line data collection ends at a command");
+    kinds += QCoreApplication::translate("orvik-diag", "offline data collection aborts on new command");
   }
   return kinds.isEmpty() ? QCoreApplication::translate("orvik-diag", "none") : kinds.join(QStringLiteral(", "));
 }
@@ -190,13 +191,14 @@ QString Features(const Drive& drive) {
         QCoreApplication::translate("orvik-diag", "Security"),
         SwitchText(known.securitySupported, known.securityLocked, QCoreApplication::translate("orvik-diag", "locked"),
                    QCoreApplication::translate("orvik-diag", "not locked")));
-    text += Fact(QCoreApplication::translate("orvik-diag", "48-bit addresses"),
+    text += Fact(QCoreApplication::translate("orvik-diag", "48-bit addressing"),
                  known.lba48Supported ? QCoreApplication::translate("orvik-diag", "yes")
                                       : QCoreApplication::translate("orvik-diag", "no"));
   }
-  text += Fact(QCoreApplication::translate("orvik-diag", "Failure prediction (SMART)"),
-               SwitchText(known.smartSupported, known.smartEnabled, QCoreApplication::translate("orvik-diag", "on"),
-                          QCoreApplication::translate("orvik-diag", "off")));
+  text +=
+      Fact(QCoreApplication::translate("orvik-diag", "SMART"),
+           SwitchText(known.smartSupported, known.smartEnabled, QCoreApplication::translate("orvik-diag", "enabled"),
+                      QCoreApplication::translate("orvik-diag", "disabled")));
   if (known.smartDataValid) {
     text += Fact(QCoreApplication::translate("orvik-diag", "Self-tests"), SelfTestKinds(known));
   }
@@ -216,8 +218,8 @@ QString Identification(const Drive& drive) {
   text += Fact(QCoreApplication::translate("orvik-diag", "Standard version"), StandardText(known.standardVersion));
   text += Fact(QCoreApplication::translate("orvik-diag", "Capacity"), CapacityText(drive));
   text += Fact(QCoreApplication::translate("orvik-diag", "Sectors"), SectorsText(known));
-  text += Fact(QCoreApplication::translate("orvik-diag", "Medium"), MediumText(known));
-  text += Fact(QCoreApplication::translate("orvik-diag", "Cache (the drive's own figure)"),
+  text += Fact(QCoreApplication::translate("orvik-diag", "Rotation rate"), MediumText(known));
+  text += Fact(QCoreApplication::translate("orvik-diag", "Cache size (as reported)"),
                known.cacheSize == 0 ? QString() : QString::number(known.cacheSize));
   return drive.IsIdentified() ? text + Features(drive) : text;
 }
@@ -227,7 +229,7 @@ QString LatestSelfTestText(const Drive& drive, const Palette& palette) {
   const std::uint8_t code = result.value.value_or(0);
   QString text = palette.Paint(SelfTestWord(code, result.isAta));
   // A drive that never ran one answers the same.
-  if (code == 0) text = QCoreApplication::translate("orvik-diag", "completed without error, or none so far");
+  if (code == 0) text = QCoreApplication::translate("orvik-diag", "completed without error, or never run");
   if (drive.selfTestProgress && drive.selfTestProgress->value) {
     text += QStringLiteral(", %1 %").arg(*drive.selfTestProgress->value);
   }
@@ -239,7 +241,7 @@ QString LatestSelfTestText(const Drive& drive, const Palette& palette) {
 }
 
 QString Readings(const Drive& drive, const Palette& palette) {
-  const auto degrees = QCoreApplication::translate("orvik-diag", "%1 degrees Celsius");
+  const auto degrees = QCoreApplication::translate("orvik-diag", "%1 °C");
   QString text = Fact(QCoreApplication::translate("orvik-diag", "Temperature"),
                       ReadingText(drive.temperature, degrees.arg(drive.temperature.value.value_or(0)), palette));
   text += Fact(QCoreApplication::translate("orvik-diag", "Health"),
@@ -266,9 +268,10 @@ QString DriveText(const Drive& drive, const Palette& palette) {
   const auto complain = [&text, &palette](const QString& line) {
     text += QStringLiteral("      %1\n").arg(palette.Paint(Colour::Red, line));
   };
-  if (!drive.status) complain(QCoreApplication::translate("orvik-diag", "Not asked"));
+  if (!drive.status) complain(QCoreApplication::translate("orvik-diag", "Not read"));
   if (drive.status && !drive.IsIdentified()) {
-    complain(QCoreApplication::translate("orvik-diag", "No identification (%1)").arg(StatusText(*drive.status)));
+    complain(QCoreApplication::translate("orvik-diag", "Could not identify the drive (%1)")
+                 .arg(StatusText(*drive.status)));
   }
   if (!drive.problem.isEmpty()) complain(drive.problem);
   if (drive.Answers()) text += Identification(drive) + Readings(drive, palette);
@@ -314,8 +317,8 @@ QString SelfTestText(const SelfTestRun& run, const Palette& palette) {
   if (!run.outcome.Ok() || run.outcome.Value() == core::TestResult::Aborted) return {};
   QString text = DriveHeading(run.drive, palette);
   if (run.kind == SelfTestRequest::Abort) {
-    return text + QStringLiteral("      %1\n")
-                      .arg(QCoreApplication::translate("orvik-diag", "The drive was told to abort its self-test"));
+    return text +
+           QStringLiteral("      %1\n").arg(QCoreApplication::translate("orvik-diag", "Abort command accepted"));
   }
   text += Fact(run.kind == SelfTestRequest::Extended ? QCoreApplication::translate("orvik-diag", "Extended self-test")
                                                      : QCoreApplication::translate("orvik-diag", "Short self-test"),

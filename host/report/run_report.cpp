@@ -55,7 +55,7 @@ Word ResultWord(core::TestResult result) {
     case core::TestResult::Aborted:
       return {"aborted", QCoreApplication::translate("orvik-diag", "aborted"), Colour::Red};
     case core::TestResult::Invalid:
-      return {"invalid", QCoreApplication::translate("orvik-diag", "device gone"), Colour::Red};
+      return {"invalid", QCoreApplication::translate("orvik-diag", "device unavailable"), Colour::Red};
   }
   return {"unknown", QCoreApplication::translate("orvik-diag", "unknown"), Colour::Red};
 }
@@ -166,7 +166,7 @@ QString RunText(const TestRun& run, const Palette& palette) {
 }
 
 QString SummaryText(const TestRunList& runs, const Palette& palette) {
-  if (runs.empty()) return QCoreApplication::translate("orvik-diag", "Nothing to test: no test applies.") + u'\n';
+  if (runs.empty()) return QCoreApplication::translate("orvik-diag", "No applicable tests.") + u'\n';
   QStringList parts;
   for (const Count& count : CountOutcomes(runs)) {
     if (count.runs == 0) continue;
@@ -205,7 +205,7 @@ QJsonArray TestsJson(const std::vector<ListedTest>& tests, const std::vector<Lis
 QString TestsText(const std::vector<ListedTest>& tests, const std::vector<ListedDevice>& devices,
                   const Palette& palette) {
   std::vector<QStringList> rows{{
-      QCoreApplication::translate("orvik-diag", "Id"),
+      QCoreApplication::translate("orvik-diag", "ID"),
       QCoreApplication::translate("orvik-diag", "Name"),
       QCoreApplication::translate("orvik-diag", "Group"),
       QCoreApplication::translate("orvik-diag", "Exclusive"),

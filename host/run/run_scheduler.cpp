@@ -13,7 +13,7 @@ namespace orvik::host {
 namespace {
 
 Error DispatcherProblem(const QString& cause) {
-  return {QCoreApplication::translate("orvik-diag", "The module could not start it: %1").arg(cause)};
+  return {QCoreApplication::translate("orvik-diag", "Could not start: %1").arg(cause)};
 }
 
 // The run's own result; an exception that it throws becomes an error.
@@ -24,9 +24,9 @@ RunOutcome OutcomeOf(Run& run) {
   } catch (const std::exception& exception) {
     cause = CauseOf(exception);
   } catch (...) {
-    cause = QCoreApplication::translate("orvik-diag", "an unknown error");
+    cause = QCoreApplication::translate("orvik-diag", "unknown exception");
   }
-  return Error{QCoreApplication::translate("orvik-diag", "It broke off: %1").arg(cause)};
+  return Error{QCoreApplication::translate("orvik-diag", "Unexpected error: %1").arg(cause)};
 }
 
 }  // namespace
@@ -74,7 +74,7 @@ class RunScheduler::Task final : public core::TaskInterface {
 
   ~Task() override {
     if (run_ == nullptr) return;
-    run_->outcome = Error{QCoreApplication::translate("orvik-diag", "The module did not run it")};
+    run_->outcome = Error{QCoreApplication::translate("orvik-diag", "The module did not execute the task")};
     finished_->Put(*run_);
   }
 
@@ -136,7 +136,8 @@ void RunScheduler::StartWhatCan() {
   // No run is left that could release a reservation, so the waiting ones would wait indefinitely.
   for (Run* const run : runs_) {
     if (run->state != Run::State::Waiting) continue;
-    EndUnstarted(*run, DispatcherProblem(QCoreApplication::translate("orvik-diag", "it keeps the device reserved")));
+    EndUnstarted(
+        *run, DispatcherProblem(QCoreApplication::translate("orvik-diag", "the module keeps the device reserved")));
   }
 }
 

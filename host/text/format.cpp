@@ -57,8 +57,8 @@ QString CauseOf(const std::exception& exception) {
 QString WithChoices(const QString& problem, const QStringList& available) {
   const QString list =
       available.isEmpty()
-          ? QCoreApplication::translate("orvik-diag", "there is none")
-          : QCoreApplication::translate("orvik-diag", "there are: %1").arg(available.join(QStringLiteral(", ")));
+          ? QCoreApplication::translate("orvik-diag", "none available")
+          : QCoreApplication::translate("orvik-diag", "available: %1").arg(available.join(QStringLiteral(", ")));
   return QStringLiteral("%1; %2").arg(problem, list);
 }
 

@@ -42,8 +42,8 @@ TEST(Drives, TellWhatTheyCanAndNothingElse) {
   host.SetEnvironment("FAKE_MOOD", "slots-fail");
   const Finished text = host.Run({"drives", "--device", "A77F"});
   EXPECT_EQ(text.exitCode, 3);
-  EXPECT_TRUE(text.err.contains("all its drives (refused by the controller, status 66)"));
-  EXPECT_TRUE(text.out.contains("Latest self-test: the read element failed, first failing LBA 1234\n    1: d-1"));
+  EXPECT_TRUE(text.err.contains("all drives of the controller (rejected by the controller, status 66)"));
+  EXPECT_TRUE(text.out.contains("Latest self-test: read failure, first failing LBA 1234\n    1: d-1"));
   EXPECT_TRUE(text.out.contains("Power mode: not reported\n")) << text.out.toStdString();
 }
 
@@ -56,12 +56,12 @@ TEST(Drives, SelfTestsEndWithTheirVerdict) {
   } cases[] = {
       {{"0:0"}, "0", 0, "Short self-test: completed without error"},
       {{"1:0", "--extended"}, "7", 2, "First failing LBA: 1234"},
-      {{"d-4"}, "8", 3, "no verdict: unknown"},  // a failure in ATA only
-      {{"d-4"}, "4", 2, "a segment failed"},
+      {{"d-4"}, "8", 3, "without a result: unknown"},  // a failure in ATA only
+      {{"d-4"}, "4", 2, "failed in a test segment"},
       {{"0:0"}, "1", 3, "aborted by the host"},
-      {{"d-1"}, "0", 3, "could not be started: device error, status 88"},
-      {{"d-2"}, "0", 3, "NVMe drives offer no self-tests"},
-      {{"d-4", "--abort"}, "0", 0, "told to abort"},
+      {{"d-1"}, "0", 3, "Could not start the self-test: device error, status 88"},
+      {{"d-2"}, "0", 3, "Self-tests are not supported on NVMe drives"},
+      {{"d-4", "--abort"}, "0", 0, "Abort command accepted"},
       {{"d-0"}, "0", 3, "0:0 (d-0, First\xEF\xBF\xBD(), 1:0 (d-0, Second)"},
   };
   HostProcess host;
