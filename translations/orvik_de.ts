@@ -702,8 +702,8 @@
         <translation>Drehzahl</translation>
     </message>
     <message>
-        <source>Run %1 --help for the options of all commands</source>
-        <translation>Optionen aller Befehle: %1 --help</translation>
+        <source>Run %1 --help for the common options</source>
+        <translation>Allgemeine Optionen: %1 --help</translation>
     </message>
     <message>
         <source>Run a short self-test (default)</source>

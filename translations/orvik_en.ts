@@ -702,8 +702,8 @@
         <translation>Rotation rate</translation>
     </message>
     <message>
-        <source>Run %1 --help for the options of all commands</source>
-        <translation>Run %1 --help for the options of all commands</translation>
+        <source>Run %1 --help for the common options</source>
+        <translation>Run %1 --help for the common options</translation>
     </message>
     <message>
         <source>Run a short self-test (default)</source>

@@ -54,7 +54,7 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& options) {
 
 void AddCommands(CLI::App& app, const std::vector<std::unique_ptr<Command>>& commands, Command*& chosen) {
   const std::string group = QCoreApplication::translate("orvik-diag", "Commands").toStdString();
-  const QString footer = QCoreApplication::translate("orvik-diag", "Run %1 --help for the options of all commands")
+  const QString footer = QCoreApplication::translate("orvik-diag", "Run %1 --help for the common options")
                              .arg(QCoreApplication::applicationName());
   for (const auto& command : commands) {
     CLI::App* const subcommand = app.add_subcommand(command->Name(), command->Description().toStdString());

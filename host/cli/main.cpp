@@ -51,7 +51,7 @@ Output Answer(const Request& request, const Translations& translations, OutputFo
   }
   if (InterruptFlag().load() != 0) {
     output.report.errors += QCoreApplication::translate("orvik-diag", "Interrupted");
-    output.report.exitCode = ExitCode::CouldNotTell;
+    output.report.exitCode = ExitCode::NoVerdict;
   }
   return output;
 }
@@ -67,7 +67,7 @@ int Print(const Output& output, OutputFormat format) {
       format == OutputFormat::Json ? JsonDocument(output.command, output.module, report) : report.text.toUtf8();
   if (Write(Stream::Output, text)) return static_cast<int>(report.exitCode);
   WriteError(QCoreApplication::translate("orvik-diag", "Could not write the output"));
-  return static_cast<int>(ExitCode::CouldNotTell);
+  return static_cast<int>(ExitCode::NoVerdict);
 }
 
 int RunProgram(const QStringList& arguments) {
@@ -82,7 +82,7 @@ int RunProgram(const QStringList& arguments) {
     return Print(output, format);
   }
   if (const auto* const information = std::get_if<Information>(&parsed.Value())) {
-    return Write(Stream::Output, information->text.toUtf8()) ? 0 : static_cast<int>(ExitCode::CouldNotTell);
+    return Write(Stream::Output, information->text.toUtf8()) ? 0 : static_cast<int>(ExitCode::NoVerdict);
   }
   return Print(Answer(std::get<Request>(parsed.Value()), translations, format), format);
 }

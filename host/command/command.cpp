@@ -23,7 +23,7 @@ QString VersionText(const core::ModuleVersion& version) {
 Report ReportOf(const Error& error) {
   Report report;
   report.errors += error.text;
-  report.exitCode = ExitCode::CouldNotTell;
+  report.exitCode = ExitCode::NoVerdict;
   return report;
 }
 

@@ -11,7 +11,7 @@
 namespace orvik::host {
 namespace {
 
-// Why the drive was not identified or not read to the end; empty if it was.
+// Why the drive could not be identified or read completely; empty if it was.
 QString ProblemOf(const Drive& drive) {
   if (!drive.problem.isEmpty() || !drive.status || drive.IsIdentified()) return drive.problem;
   return QCoreApplication::translate("orvik-diag", "Could not identify the drive (%1)")
@@ -45,7 +45,7 @@ class DrivesCommand final : public Command {
       AddErrors(*query, report);
       report.exitCode = Worse(report.exitCode, ExitCodeOf(query->outcome));
     }
-    if (!report.errors.isEmpty()) report.exitCode = ExitCode::CouldNotTell;
+    if (!report.errors.isEmpty()) report.exitCode = ExitCode::NoVerdict;
     if (context.format == OutputFormat::Json) {
       report.sections["devices"] = DevicesJson(devices.Value());
       report.sections["drives"] = DrivesJson(queries);
@@ -56,7 +56,7 @@ class DrivesCommand final : public Command {
   }
 
  private:
-  // One line for everything that the user asked for and did not get.
+  // One line for each drive or list that could not be read.
   static void AddErrors(const DriveQuery& query, Report& report) {
     for (const QString& problem : ProblemsOf(query)) report.errors += DeviceProblem(*query.device, problem);
     for (const Drive& drive : query.drives) {

@@ -1,4 +1,4 @@
-// The commands that show what there is: controllers and tests. None of them runs anything.
+// The commands that list controllers and tests and do not run anything.
 
 #include <QCoreApplication>
 #include <QJsonArray>

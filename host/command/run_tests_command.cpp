@@ -50,7 +50,7 @@ class RunTestsCommand final : public Command {
 
     Report report;
     report.errors = list.errors;
-    if (!list.errors.isEmpty()) report.exitCode = ExitCode::CouldNotTell;
+    if (!list.errors.isEmpty()) report.exitCode = ExitCode::NoVerdict;
     for (const auto& run : runs) {
       if (context.hideSerials) HideSerials(run->log.Messages());
       report.exitCode = Worse(report.exitCode, ExitCodeOf(run->outcome));

@@ -26,12 +26,15 @@ class SelfTestCommand final : public Command {
                     QCoreApplication::translate("orvik-diag", "Drive ID, or the indexes DEVICE:DRIVE").toStdString())
         ->type_name(QCoreApplication::translate("orvik-diag", "DRIVE").toStdString())
         ->required();
-    CLI::Option* const shortTest = AddFlag(
-        options, "--short", short_, QCoreApplication::translate("orvik-diag", "Run a short self-test (default)"));
-    CLI::Option* const extended = AddFlag(options, "--extended", extended_,
-                                          QCoreApplication::translate("orvik-diag", "Run an extended self-test"));
-    CLI::Option* const abort =
-        AddFlag(options, "--abort", abort_, QCoreApplication::translate("orvik-diag", "Abort the running self-test"));
+    // Without a variable: it is the default.
+    const std::string aboutShort =
+        QCoreApplication::translate("orvik-diag", "Run a short self-test (default)").toStdString();
+    CLI::Option* const shortTest = options.add_flag("--short", aboutShort);
+    CLI::Option* const extended =
+        options.add_flag("--extended", extended_,
+                         QCoreApplication::translate("orvik-diag", "Run an extended self-test").toStdString());
+    CLI::Option* const abort = options.add_flag(
+        "--abort", abort_, QCoreApplication::translate("orvik-diag", "Abort the running self-test").toStdString());
     shortTest->excludes(extended)->excludes(abort);
     extended->excludes(abort);
   }
@@ -51,7 +54,7 @@ class SelfTestCommand final : public Command {
     const Result<ChosenDrive> chosen = ChooseDrive(lists, driveName_);
     if (!chosen.Ok()) {
       report.errors += chosen.Error().text;
-      report.exitCode = ExitCode::CouldNotTell;
+      report.exitCode = ExitCode::NoVerdict;
       return report;
     }
     if (context.format == OutputFormat::Json) report.sections["devices"] = DevicesJson(devices.Value());
@@ -60,10 +63,6 @@ class SelfTestCommand final : public Command {
   }
 
  private:
-  static CLI::Option* AddFlag(CLI::App& options, const char* name, bool& value, const QString& description) {
-    return options.add_flag(name, value, description.toStdString());
-  }
-
   SelfTestRequest Request() const {
     if (abort_) return SelfTestRequest::Abort;
     return extended_ ? SelfTestRequest::Extended : SelfTestRequest::Short;
@@ -88,7 +87,6 @@ class SelfTestCommand final : public Command {
   }
 
   std::string driveName_;
-  bool short_ = false;
   bool extended_ = false;
   bool abort_ = false;
 };

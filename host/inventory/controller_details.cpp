@@ -102,7 +102,7 @@ Result<Record> Read(RaidDevice& device, std::uint32_t (RaidDevice::*slot)(Record
   }
 }
 
-// The value, or nothing and a line more in `errors`.
+// The value; on failure nothing, and the error is added to `errors`.
 template <typename Record>
 std::optional<Record> ValueOrNote(Result<Record> result, QStringList& errors) {
   if (result.Ok()) return std::move(result).Value();

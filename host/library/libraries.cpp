@@ -75,7 +75,7 @@ Result<void> OpenSimulatedMachine(const QString& machineFile) {
 
 Result<std::unique_ptr<ModuleLibrary>> ModuleLibrary::Open(const QString& file, bool simulated) {
   const QString path = ModulePath(file, simulated);
-  // Never unloaded: what the module handed out may need its code until the program ends.
+  // Never unloaded: objects from the module may need its code until the program ends.
   QLibrary library(path);
   if (!library.load()) return NotLoaded(path, LoadProblem(QFileInfo(path), library));
 

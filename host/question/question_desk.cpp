@@ -85,7 +85,7 @@ void QuestionDesk::Take(QDialog& dialog) {
     });
   }
   connect(&dialog, &QObject::destroyed, this, [this] { LeaveTerminal(); });
-  // By then the dialog runs its own event loop and can be closed.
+  // Delayed until the dialog runs its own event loop, because only then can it be closed.
   QTimer::singleShot(0, this, [this] { Serve(); });
 }
 

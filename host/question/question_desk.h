@@ -45,7 +45,7 @@ class QuestionDesk final : public QObject, public QuestionPresenter {
   QPointer<QDialog> dialog_;
   QTimer terminalTimer_;
   std::mutex turn_;   // held while a question is asked
-  std::mutex mutex_;  // guards what follows
+  std::mutex mutex_;  // guards the members below
   bool expecting_ = false;
   std::optional<AskedQuestion> asked_;
 };

@@ -22,7 +22,7 @@ QJsonArray DevicesJson(const std::vector<ListedDevice>& devices);
 /// One line for people: index, name, id.
 QString DeviceHeading(const ListedDevice& device, const Palette& palette);
 
-/// A tree for people: heading, properties, errors, logical disks, physical disks.
+/// A tree for people: heading, properties, errors, logical drives, physical drives.
 QString DeviceTree(const ListedDevice& device, const ControllerDetails& details, const Palette& palette);
 
 }  // namespace orvik::host

@@ -22,7 +22,7 @@ QJsonValue StatusJson(const std::optional<Status>& status) {
   return QJsonObject{{"number", JsonNumber(std::uint64_t{status->Code()})}, {"word", StatusWord(*status).stable}};
 }
 
-// In the drives' records 0 stands for "not reported".
+// Drive records use 0 for "not reported".
 QJsonValue NumberUnlessZero(std::uint64_t number) {
   return number == 0 ? QJsonValue(QJsonValue::Null) : JsonNumber(number);
 }
@@ -48,7 +48,7 @@ QJsonValue SelfTestCodeJson(const Reading<std::uint8_t>& result) {
 
 QJsonObject IdentificationJson(const Drive& drive) {
   const ProtocolProperties& known = drive.properties;
-  const bool complete = drive.IsIdentified();  // until then a flag that was not asked is false too
+  const bool complete = drive.IsIdentified();  // otherwise false may mean that the flag was not read
   const bool hasSmartData = complete && known.smartDataValid;
   return {
       {"protocolName", RawText(known.protocolName)},
@@ -93,7 +93,7 @@ QJsonObject ReadingsJson(const Drive& drive) {
   };
 }
 
-// What every mention of a drive begins with.
+// The members that identify a drive.
 QJsonObject PlaceJson(const ListedDevice& device, const Drive& drive) {
   return {
       {"device", QJsonObject{{"index", device.index}, {"id", RawText(device.description.id)}}},
@@ -122,7 +122,7 @@ const char* RequestName(SelfTestRequest kind) {
   return "short";
 }
 
-// A line for a fact; none where there is nothing to say.
+// One line; empty without a value.
 QString Fact(const QString& name, const QString& value) {
   return value.isEmpty() ? QString() : QStringLiteral("      %1: %2\n").arg(name, value);
 }
@@ -155,7 +155,7 @@ QString SectorsText(const ProtocolProperties& known) {
       text, QCoreApplication::translate("orvik-diag", "%1 bytes physical").arg(known.physicalSectorSize));
 }
 
-QString MediumText(const ProtocolProperties& known) {
+QString RotationText(const ProtocolProperties& known) {
   if (known.isSolidState) return QCoreApplication::translate("orvik-diag", "solid-state device");
   if (known.rotationRate == 0) return {};
   return QCoreApplication::translate("orvik-diag", "%1 rpm").arg(known.rotationRate);
@@ -177,12 +177,12 @@ QString SelfTestKinds(const ProtocolProperties& known) {
   return kinds.isEmpty() ? QCoreApplication::translate("orvik-diag", "none") : kinds.join(QStringLiteral(", "));
 }
 
-// The module's own word for a standard that the drive does not tell is no news.
+// The module's placeholder for a missing version is not shown.
 QString StandardText(const std::string& name) {
   return name == "VERSION_NOT_REPORTED" ? QString() : DisplayText(name);
 }
 
-// What only a complete identification tells.
+// Known only after a complete identification.
 QString Features(const Drive& drive) {
   const ProtocolProperties& known = drive.properties;
   QString text;
@@ -218,7 +218,7 @@ QString Identification(const Drive& drive) {
   text += Fact(QCoreApplication::translate("orvik-diag", "Standard version"), StandardText(known.standardVersion));
   text += Fact(QCoreApplication::translate("orvik-diag", "Capacity"), CapacityText(drive));
   text += Fact(QCoreApplication::translate("orvik-diag", "Sectors"), SectorsText(known));
-  text += Fact(QCoreApplication::translate("orvik-diag", "Rotation rate"), MediumText(known));
+  text += Fact(QCoreApplication::translate("orvik-diag", "Rotation rate"), RotationText(known));
   text += Fact(QCoreApplication::translate("orvik-diag", "Cache size (as reported)"),
                known.cacheSize == 0 ? QString() : QString::number(known.cacheSize));
   return drive.IsIdentified() ? text + Features(drive) : text;
@@ -228,7 +228,7 @@ QString LatestSelfTestText(const Drive& drive, const Palette& palette) {
   const Reading<std::uint8_t>& result = drive.selfTestResult;
   const std::uint8_t code = result.value.value_or(0);
   QString text = palette.Paint(SelfTestWord(code, result.isAta));
-  // A drive that never ran one answers the same.
+  // A drive that never ran a self-test reports the same code.
   if (code == 0) text = QCoreApplication::translate("orvik-diag", "completed without error, or never run");
   if (drive.selfTestProgress && drive.selfTestProgress->value) {
     text += QStringLiteral(", %1 %").arg(*drive.selfTestProgress->value);
@@ -265,15 +265,15 @@ QString DriveHeading(const Drive& drive, const Palette& palette) {
 
 QString DriveText(const Drive& drive, const Palette& palette) {
   QString text = DriveHeading(drive, palette);
-  const auto complain = [&text, &palette](const QString& line) {
+  const auto addProblem = [&text, &palette](const QString& line) {
     text += QStringLiteral("      %1\n").arg(palette.Paint(Colour::Red, line));
   };
-  if (!drive.status) complain(QCoreApplication::translate("orvik-diag", "Not read"));
+  if (!drive.status) addProblem(QCoreApplication::translate("orvik-diag", "Not read"));
   if (drive.status && !drive.IsIdentified()) {
-    complain(QCoreApplication::translate("orvik-diag", "Could not identify the drive (%1)")
-                 .arg(StatusText(*drive.status)));
+    addProblem(QCoreApplication::translate("orvik-diag", "Could not identify the drive (%1)")
+                   .arg(StatusText(*drive.status)));
   }
-  if (!drive.problem.isEmpty()) complain(drive.problem);
+  if (!drive.problem.isEmpty()) addProblem(drive.problem);
   if (drive.Answers()) text += Identification(drive) + Readings(drive, palette);
   return text;
 }

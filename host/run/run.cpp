@@ -15,7 +15,7 @@ constexpr std::uint32_t kExtendedGroup = 2;
 int Severity(ExitCode code) {
   switch (code) {
     case ExitCode::Failed: return 3;
-    case ExitCode::CouldNotTell: return 2;
+    case ExitCode::NoVerdict: return 2;
     case ExitCode::Warning: return 1;
     case ExitCode::AllRight: break;
   }
@@ -65,7 +65,7 @@ std::optional<int> RunLog::Progress() const {
 }
 
 ExitCode ExitCodeOf(const RunOutcome& outcome) {
-  if (!outcome.Ok()) return ExitCode::CouldNotTell;
+  if (!outcome.Ok()) return ExitCode::NoVerdict;
   switch (outcome.Value()) {
     case core::TestResult::Passed:
     case core::TestResult::NotApplicable: return ExitCode::AllRight;
@@ -74,7 +74,7 @@ ExitCode ExitCodeOf(const RunOutcome& outcome) {
     case core::TestResult::Invalid:
     case core::TestResult::Aborted: break;
   }
-  return ExitCode::CouldNotTell;
+  return ExitCode::NoVerdict;
 }
 
 ExitCode Worse(ExitCode first, ExitCode second) {

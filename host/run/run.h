@@ -72,10 +72,10 @@ using RunOutcome = Result<core::TestResult>;
 
 /// The program's exit code.
 enum class ExitCode : int {
-  AllRight = 0,      ///< everything passed, or nothing applied
-  Warning = 1,       ///< a test ended with a warning
-  Failed = 2,        ///< a test failed
-  CouldNotTell = 3,  ///< usage error, no module, no machine, interrupted, or a run without a verdict
+  AllRight = 0,   ///< everything passed, or nothing applied
+  Warning = 1,    ///< a test ended with a warning
+  Failed = 2,     ///< a test failed
+  NoVerdict = 3,  ///< usage error, no module, no machine, interrupted, or a run without a verdict
 };
 
 /// The code of one run.

@@ -30,7 +30,7 @@ InputLine PollInputLine() {
   pollfd input{STDIN_FILENO, POLLIN, 0};
   if (poll(&input, 1, 0) <= 0) return {};
   std::array<char, 1024> line{};
-  // A terminal hands out whole lines.
+  // A terminal delivers whole lines.
   const ssize_t size = read(STDIN_FILENO, line.data(), line.size());
   if (size <= 0) return {InputLine::State::Ended};
   return {InputLine::State::Line, QString::fromLocal8Bit(line.data(), size)};

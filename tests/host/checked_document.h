@@ -5,7 +5,8 @@
 
 namespace orvik::tests {
 
-/// The one JSON document in `output`, held against the schema; a failed expectation and an empty object otherwise.
+/// Parses the JSON document in `output` and validates it against the schema. Fails the test and returns an empty
+/// object if it is not JSON.
 QJsonObject CheckedDocument(const QByteArray& output);
 
 }  // namespace orvik::tests

@@ -1,4 +1,4 @@
-// The program from outside, as a user or a script meets it.
+// The program as a user or a script runs it.
 
 #include <gtest/gtest.h>
 
@@ -32,7 +32,7 @@ class CommandTest : public testing::Test {
   HostProcess host_;
 };
 
-TEST_F(CommandTest, ScanShowsWhatTheControllerTells) {
+TEST_F(CommandTest, ScanPrintsControllersAndDrives) {
   const Finished finished = host_.Run({"scan"});
   EXPECT_EQ(finished.exitCode, 0);
   EXPECT_EQ(finished.err, "");
@@ -44,7 +44,7 @@ TEST_F(CommandTest, ScanShowsWhatTheControllerTells) {
   }
 }
 
-TEST_F(CommandTest, ScanTellsProgramsEveryDisk) {
+TEST_F(CommandTest, ScanReportsEveryDriveInJson) {
   const QJsonObject document = Document({"scan"}, 0);
   EXPECT_EQ(document["module"].toObject()["version"].toString(), "1.2.3-test");
   const QJsonObject device = document["devices"].toArray()[0].toObject();
@@ -61,7 +61,7 @@ TEST_F(CommandTest, ScanTellsProgramsEveryDisk) {
   EXPECT_EQ(property["label"].toString(), "Serial number");
 }
 
-TEST_F(CommandTest, ScanGoesOnWithTheDescriptionWhenTheControllerIsSilent) {
+TEST_F(CommandTest, ScanFallsBackToTheDescriptionIfTheControllerFails) {
   host_.SetEnvironment("FAKE_MOOD", "slots-fail");
   const QJsonObject document = Document({"scan"}, 0);
   EXPECT_EQ(document["errors"].toArray().size(), 6);
@@ -78,7 +78,7 @@ TEST_F(CommandTest, ScanGoesOnWithTheDescriptionWhenTheControllerIsSilent) {
   EXPECT_TRUE(finished.out.contains("0: RAID 1, 9.01 PB, 2 members"));
 }
 
-TEST_F(CommandTest, TestsNameTheDevicesTheyApplyTo) {
+TEST_F(CommandTest, TestListNamesTheDevicesEachTestAppliesTo) {
   host_.SetEnvironment("FAKE_TESTS", "1,9,6");
   const QJsonArray tests = Document({"tests"}, 0)["tests"].toArray();
   ASSERT_EQ(tests.size(), 3);
@@ -89,7 +89,7 @@ TEST_F(CommandTest, TestsNameTheDevicesTheyApplyTo) {
   EXPECT_TRUE(host_.Run({"tests"}).out.contains("RAID status test  Quick RAID tests  no"));
 }
 
-TEST_F(CommandTest, ExitCodeTellsTheWorst) {
+TEST_F(CommandTest, ExitCodeIsTheMostSevere) {
   const struct {
     const char* tests;
     int exitCode;
@@ -102,7 +102,7 @@ TEST_F(CommandTest, ExitCodeTellsTheWorst) {
   }
 }
 
-TEST_F(CommandTest, RunsKeepTheirMessagesInOrder) {
+TEST_F(CommandTest, RunsReportMessagesInOrder) {
   const QJsonObject document = Document({"test", "--device", "A77F"}, 2);
   const QJsonArray runs = document["runs"].toArray();
   ASSERT_EQ(runs.size(), 3);
@@ -115,14 +115,14 @@ TEST_F(CommandTest, RunsKeepTheirMessagesInOrder) {
   EXPECT_EQ(document["summary"].toObject()["results"].toObject()["failed"].toInt(), 1);
 
   const Finished text = host_.Run({"test", "--only", "3", "--device", "0"});
-  EXPECT_TRUE(text.out.contains("[1] Second (ID 0)\n")) << "an id comes before an index";
+  EXPECT_TRUE(text.out.contains("[1] Second (ID 0)\n")) << "an ID takes precedence over an index";
   EXPECT_TRUE(
       text.out.contains("error: Faulty enclosure 3\n      notice: NOBODY_KNOWS_THIS\n      Result: failed\n"));
   EXPECT_TRUE(text.out.endsWith("1 run: 1 failed\n"));
-  EXPECT_EQ(text.err, "") << "no bars where there is no terminal";
+  EXPECT_EQ(text.err, "") << "bars need a terminal";
 }
 
-TEST_F(CommandTest, BrokenOffTestIsAnErrorOfItsRunOnly) {
+TEST_F(CommandTest, ThrowingTestFailsItsOwnRunOnly) {
   host_.SetEnvironment("FAKE_TESTS", "5,1");
   const QJsonArray runs = Document({"test"}, 3)["runs"].toArray();
   ASSERT_EQ(runs.size(), 4);
@@ -130,7 +130,7 @@ TEST_F(CommandTest, BrokenOffTestIsAnErrorOfItsRunOnly) {
   EXPECT_EQ(runs[1].toObject()["result"].toObject()["word"].toString(), "passed");
 }
 
-TEST_F(CommandTest, ModuleThatDoesNotRunItsTasksLeavesNobodyWaiting) {
+TEST_F(CommandTest, ModuleThatDropsTasksDoesNotHangTheProgram) {
   for (const char* const mood : {"swallow", "refuse"}) {
     host_.SetEnvironment("FAKE_MOOD", mood);
     const QJsonArray runs = Document({"test"}, 3)["runs"].toArray();
@@ -139,9 +139,9 @@ TEST_F(CommandTest, ModuleThatDoesNotRunItsTasksLeavesNobodyWaiting) {
   }
 }
 
-TEST_F(CommandTest, RunsOfOneDeviceFollowEachOtherAndReservationsAreKept) {
+TEST_F(CommandTest, RunsOfOneDeviceAreSequentialAndRespectReservations) {
   host_.SetEnvironment("FAKE_TESTS", "7,6,1");
-  Document({"test"}, 0);  // test 7 passes only when both devices are under way at once
+  Document({"test"}, 0);  // test 7 passes only if both devices run at the same time
   for (const char* const device : {"A77F", "0"}) {
     const QString on = QStringLiteral(" on ") + device;
     const QStringList expected{"started 7" + on + " mode 1", "run 7" + on, "finished 7" + on + " mode 1",
@@ -156,11 +156,11 @@ TEST_F(CommandTest, RunsOfOneDeviceFollowEachOtherAndReservationsAreKept) {
   const QStringList log = host_.LogLines();
   const QStringList exclusive = log.filter(" 6 on ").filter("mode 0");
   ASSERT_EQ(exclusive.size(), 4);
-  EXPECT_TRUE(exclusive[1].startsWith("finished")) << "the exclusive place was taken twice";
+  EXPECT_TRUE(exclusive[1].startsWith("finished")) << "two exclusive runs overlapped";
   EXPECT_EQ(log.last(), "module destroyed");
 }
 
-TEST_F(CommandTest, NothingFoundIsNoFault) {
+TEST_F(CommandTest, NoControllerIsNotAnError) {
   host_.SetEnvironment("FAKE_MOOD", "empty");
   EXPECT_TRUE(Document({"scan"}, 0)["devices"].toArray().isEmpty());
   EXPECT_FALSE(Document({"presence"}, 0)["present"].toBool());
@@ -168,7 +168,7 @@ TEST_F(CommandTest, NothingFoundIsNoFault) {
   EXPECT_EQ(host_.Run({"presence"}).out, "No RAID controller found.\n");
 }
 
-TEST_F(CommandTest, LanguageIsTheUsers) {
+TEST_F(CommandTest, TextsFollowTheRequestedLanguage) {
   EXPECT_TRUE(host_.Run({"tests", "--lang", "de"}).out.contains("RAID-Statustest"));
   EXPECT_TRUE(host_.Run({"tests", "--lang=xx"}).out.contains("RAID status test"));
   EXPECT_EQ(host_.Run({"test", "--lang", "de", "--only", "raid status TEST"}).exitCode, 0);
@@ -176,7 +176,7 @@ TEST_F(CommandTest, LanguageIsTheUsers) {
   EXPECT_EQ(host_.Run({"test", "--only", "RAID-Statustest"}).exitCode, 3);
 }
 
-TEST_F(CommandTest, OptionsStandOnEitherSideOfTheCommand) {
+TEST_F(CommandTest, CommonOptionsWorkBeforeAndAfterTheCommand) {
   CheckedDocument(host_.Run({"--json", "presence"}).out);
   CheckedDocument(host_.Run({"presence", "--json"}).out);
   EXPECT_EQ(host_.Run({"--module", FAKE_MODULE, "presence"}).exitCode, 0);
@@ -193,7 +193,7 @@ TEST_F(CommandTest, HelpAndVersionAreAlwaysText) {
   EXPECT_TRUE(host_.Run({"--version", "--json"}).out.startsWith("orvik-diag "));
 }
 
-TEST_F(CommandTest, WhatCannotBeDoneIsOneErrorAndExitsWithThree) {
+TEST_F(CommandTest, FailureIsOneErrorLineAndExitCodeThree) {
   const struct {
     QStringList arguments;
     const char* mood;
@@ -237,13 +237,13 @@ TEST_F(CommandTest, MachineIsOpenedBeforeTheModuleIsLoaded) {
   EXPECT_EQ(broken["errors"].toArray()[0].toObject()["message"].toString(),
             "broken.json: /controllers/0: expected an object, found a number");
   EXPECT_TRUE(broken["module"].isNull());
-  EXPECT_EQ(host_.LogLines().last(), "opened bad.json") << "nothing else may happen";
-  EXPECT_EQ(host_.Run({"scan", "--machine", "good.json"}).exitCode, 0) << "the option comes before the environment";
+  EXPECT_EQ(host_.LogLines().last(), "opened bad.json") << "the module must not be loaded";
+  EXPECT_EQ(host_.Run({"scan", "--machine", "good.json"}).exitCode, 0) << "the option overrides the environment";
   host_.SetEnvironment("ORVIK_MACHINE", "");
   EXPECT_EQ(host_.Run({"scan"}).exitCode, 0);
 }
 
-TEST_F(CommandTest, QuestionsAreAnsweredOrClosedButNeverWaitedFor) {
+TEST_F(CommandTest, QuestionsWithoutAUserAreAnsweredOrClosed) {
   host_.SetEnvironment("FAKE_TESTS", QString::number(kAsk));
   struct Row {
     QStringList arguments;

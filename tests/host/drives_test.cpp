@@ -1,4 +1,4 @@
-// Member drives: what they tell, their self-tests, and serial numbers that are nobody's business.
+// Member drives: their values, their self-tests and hidden serial numbers.
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 namespace orvik::tests {
 namespace {
 
-TEST(Drives, TellWhatTheyCanAndNothingElse) {
+TEST(Drives, ReportOnlyWhatTheDriveProvides) {
   HostProcess host;
   host.InstallModule();
   const QJsonArray drives = CheckedDocument(host.Run({"drives", "--json"}).out)["drives"].toArray();
@@ -28,7 +28,7 @@ TEST(Drives, TellWhatTheyCanAndNothingElse) {
       {2, "readings/lifeRemaining/value", 97},
       {2, "readings/health/value", QJsonValue::Null},
       {2, "readings/selfTestResult/value", QJsonValue::Null},
-      {3, "status/number", 0},  // the ATA object identifies what the SCSI one cannot
+      {3, "status/number", 0},  // identified through the ATA object
       {3, "readings/temperature/value", 33},
       {4, "identification/serial", "SER-1"},
       {4, "readings/temperature/status/word", "failure"},
@@ -38,7 +38,7 @@ TEST(Drives, TellWhatTheyCanAndNothingElse) {
     for (const QString& step : QString(each.path).split('/')) value = value[step];
     EXPECT_EQ(value, each.value) << each.drive << ' ' << each.path;
   }
-  EXPECT_EQ(host.LogLines().filter("started drives on A77F mode 1").size(), 1) << "asked without a reservation";
+  EXPECT_EQ(host.LogLines().filter("started drives on A77F mode 1").size(), 1) << "read without a reservation";
   host.SetEnvironment("FAKE_MOOD", "slots-fail");
   const Finished text = host.Run({"drives", "--device", "A77F"});
   EXPECT_EQ(text.exitCode, 3);
@@ -47,7 +47,7 @@ TEST(Drives, TellWhatTheyCanAndNothingElse) {
   EXPECT_TRUE(text.out.contains("Power mode: not reported\n")) << text.out.toStdString();
 }
 
-TEST(Drives, SelfTestsEndWithTheirVerdict) {
+TEST(Drives, SelfTestsEndWithTheirResult) {
   const struct {
     QStringList arguments;
     const char* code;
@@ -56,7 +56,7 @@ TEST(Drives, SelfTestsEndWithTheirVerdict) {
   } cases[] = {
       {{"0:0"}, "0", 0, "Short self-test: completed without error"},
       {{"1:0", "--extended"}, "7", 2, "First failing LBA: 1234"},
-      {{"d-4"}, "8", 3, "without a result: unknown"},  // a failure in ATA only
+      {{"d-4"}, "8", 3, "without a result: unknown"},  // a failure code in ATA only
       {{"d-4"}, "4", 2, "failed in a test segment"},
       {{"0:0"}, "1", 3, "aborted by the host"},
       {{"d-1"}, "0", 3, "Could not start the self-test: device error, status 88"},
@@ -75,7 +75,7 @@ TEST(Drives, SelfTestsEndWithTheirVerdict) {
   EXPECT_EQ(host.LogLines().filter("self-test 2 by ATA").size(), 1);
 }
 
-TEST(HideSerials, LeavesNoneWhereverTheyStand) {
+TEST(HideSerials, MasksEveryOccurrence) {
   HostProcess host;
   host.InstallModule();
   host.SetEnvironment("FAKE_TESTS", "2");

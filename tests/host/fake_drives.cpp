@@ -3,7 +3,7 @@
 
 #include "tests/host/fake_module.h"
 
-// The base of all protocols lies in the module's library, which no test of the host needs.
+// Defined here because the host's tests do not link the module's library.
 namespace orvik::module::storage {
 Protocol::Protocol() : properties_(std::make_shared<ProtocolProperties>()) {}
 Protocol::~Protocol() = default;
@@ -38,21 +38,21 @@ class Drive final : public Protocol {
   }
 
   Status GetSelfTestProgress(std::uint8_t& percent) override {
-    return ++looks_, Tell(percent, 50, kind_ == FakeDrive::Ata);
+    return ++looks_, Report(percent, 50, kind_ == FakeDrive::Ata);
   }
 
   Status GetSelfTestResult(std::uint8_t& result) override {
-    if (looks_ == 0) return Tell(result, 7, kind_ == FakeDrive::Ata);
+    if (looks_ == 0) return Report(result, 7, kind_ == FakeDrive::Ata);
     const bool isOver = looks_ > 1 && !IsInMood("endless");
-    return Tell(result, isOver ? static_cast<std::uint8_t>(Environment(kSelfTestEnvironment)[0] - '0') : 15, true);
+    return Report(result, isOver ? static_cast<std::uint8_t>(Environment(kSelfTestEnvironment)[0] - '0') : 15, true);
   }
 
   Status AbortSelfTest() override { return Log("self-test aborted"), status::kSuccess; }
-  Status GetSelfTestFailingLba(std::uint64_t& lba) override { return Tell(lba, 1234, true); }
-  Status GetTemperature(std::uint8_t& degrees) override { return Tell(degrees, 33, kind_ == FakeDrive::Ata); }
-  Status GetHealthStatus(std::uint8_t& healthy) override { return Tell(healthy, 0, kind_ == FakeDrive::Ata); }
-  Status GetLifeRemaining(std::uint32_t& percent) override { return Tell(percent, 97, kind_ == FakeDrive::Nvme); }
-  Status GetPowerMode(std::uint32_t& mode) override { return Tell(mode, 2, kind_ == FakeDrive::Ata); }
+  Status GetSelfTestFailingLba(std::uint64_t& lba) override { return Report(lba, 1234, true); }
+  Status GetTemperature(std::uint8_t& degrees) override { return Report(degrees, 33, kind_ == FakeDrive::Ata); }
+  Status GetHealthStatus(std::uint8_t& healthy) override { return Report(healthy, 0, kind_ == FakeDrive::Ata); }
+  Status GetLifeRemaining(std::uint32_t& percent) override { return Report(percent, 97, kind_ == FakeDrive::Nvme); }
+  Status GetPowerMode(std::uint32_t& mode) override { return Report(mode, 2, kind_ == FakeDrive::Ata); }
 
   void* GetHandle() const override { return nullptr; }
   Status Read(std::uint64_t, std::uint16_t, std::uint32_t, std::uint8_t*, std::uint32_t) override { return 0; }
@@ -62,9 +62,9 @@ class Drive final : public Protocol {
   Status Idle() override { return 0; }
 
  private:
-  // What a SCSI drive hasn't got fails, what an NVMe drive hasn't got stays untouched.
+  // A missing operation fails on SCSI drives and leaves the output untouched on NVMe drives.
   template <typename Value>
-  Status Tell(Value& output, std::type_identity_t<Value> value, bool isKnown) const {
+  Status Report(Value& output, std::type_identity_t<Value> value, bool isKnown) const {
     if (isKnown) output = value;
     return isKnown || kind_ == FakeDrive::Nvme ? status::kSuccess : status::kFailure;
   }

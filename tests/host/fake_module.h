@@ -6,8 +6,8 @@
 #include "core/module.h"
 #include "module/storage/protocol.h"
 
-// A small module to load into the host: two devices, tests for every way a run can end, and a log of the order in
-// which the host does things. The environment chooses among its misbehaviours.
+// A small module for the host to load: two devices, a test for every outcome, and a log of the calls. The environment
+// selects its faults.
 namespace orvik::tests {
 
 /// Tests of the fake module, by id.
@@ -15,15 +15,15 @@ enum FakeTest : core::TestId {
   kPass = 1,
   kWarn,
   kFail,
-  kUntilAborted,  ///< ends only when aborted
+  kUntilAborted,  ///< runs until aborted
   kThrow,
   kExclusive,
-  kMeet,  ///< passes only if a run on the other device is under way at the same time
+  kMeet,  ///< passes only if a run on the other device is active at the same time
   kInvalid,
   kFirstDeviceOnly,
   kUnknownResult,
-  kAsk,          ///< asks a question in a dialog and logs what it ended with
-  kUnmade = 99,  ///< listed but never made
+  kAsk,          ///< asks a question in a dialog and logs the answer
+  kUnmade = 99,  ///< listed but never created
 };
 
 /// Ids of the tests to list, comma separated.
@@ -33,14 +33,14 @@ constexpr char kListEnvironment[] = "FAKE_TESTS";
 constexpr char kMoodEnvironment[] = "FAKE_MOOD";
 /// Code that a self-test ends with, 0 without it.
 constexpr char kSelfTestEnvironment[] = "FAKE_SELFTEST";
-/// File to which a line is added for each step of the host.
+/// File that receives a line for each call of the host.
 constexpr char kLogEnvironment[] = "FAKE_LOG";
 
 bool IsInMood(const char* word);
 void Log(const std::string& line);
 std::string Environment(const char* name);
 
-/// Drives that tell everything, next to nothing, only what NVMe drives do, or all but their capacity.
+/// Drives that report everything, almost nothing, only what NVMe drives do, or everything except their capacity.
 enum class FakeDrive { Ata, Silent, Nvme, Scsi };
 std::shared_ptr<module::storage::Protocol> MakeFakeDrive(FakeDrive kind);
 

@@ -9,7 +9,7 @@
 namespace orvik::tests {
 namespace {
 
-// Looks like the real dialog to whoever goes by object names.
+// Has the object names of the real dialog.
 class FakeQuestion final : public core::InputInteraction {
  public:
   explicit FakeQuestion(std::atomic<int>& result) : result_(&result) {}
@@ -28,7 +28,7 @@ class FakeQuestion final : public core::InputInteraction {
     Name(*new QLabel("It hurts.", &dialog), "generic_input_instruction_label");
     AddButton(dialog, "generic_input_button_ok", 1);
     AddButton(dialog, "generic_input_button_cancel", 2);
-    // As a window that is brought forward before it waits for its answer.
+    // Like a window that is raised before it waits for its answer.
     dialog.open();
     dialog.hide();
     *result_ = dialog.exec();
@@ -42,7 +42,7 @@ class FakeQuestion final : public core::InputInteraction {
     QObject::connect(button, &QPushButton::clicked, &dialog, [&dialog, code] { dialog.done(code); });
   }
 
-  // Qt's blocking call orders the threads too, but not before a thread sanitizer.
+  // Qt's blocking call orders the threads too, but thread sanitizers do not see it.
   std::atomic<int>* result_;
 };
 

@@ -1,4 +1,4 @@
-// A simulation library to load into the host. It is no module, so it also serves as a library that is none.
+// A simulation library for the host to load, and an example of a library that is not a module.
 
 #include <QtCore/qglobal.h>
 

@@ -14,7 +14,7 @@ namespace {
 using core::MessageType;
 using core::TestResult;
 
-// Whether two runs meet here before the wait is given up.
+// Whether two runs arrive here before the timeout.
 bool Meet() {
   static std::mutex mutex;
   static std::condition_variable arrived;
@@ -51,7 +51,7 @@ class FakeTestObject final : public core::Test {
     const std::shared_ptr<core::Device> device = arguments.device.lock();
     Log("run " + std::to_string(id_) + " on " + device->GetId());
     arguments.reporter->SetProgress(40);
-    const TestResult result = Perform(arguments);
+    const TestResult result = ResultFor(arguments);
     arguments.reporter->SetProgress(100);
     return result;
   }
@@ -64,7 +64,7 @@ class FakeTestObject final : public core::Test {
   }
 
  private:
-  TestResult Perform(core::RunArguments& arguments) const {
+  TestResult ResultFor(core::RunArguments& arguments) const {
     switch (id_) {
       case kWarn:
         arguments.reporter->AddMessage({MessageType::Warning, "LOGICAL_DRIVE_DEGRADED: 7"});
@@ -87,7 +87,7 @@ class FakeTestObject final : public core::Test {
   core::TestId id_;
 };
 
-// Keeps the book as the real one does and gives every task a thread of its own.
+// Keeps reservations like the real one and gives every task its own thread.
 class FakeDispatcher final : public core::DiagnosticDispatcher {
  public:
   ~FakeDispatcher() override {
@@ -124,7 +124,7 @@ class FakeDispatcher final : public core::DiagnosticDispatcher {
   static std::string IdOf(const core::DispatchRequest& request) { return request.GetDevice().lock()->GetId(); }
 
   void LogStep(const char* step, const core::DispatchRequest& request) const {
-    const char* const thread = std::this_thread::get_id() == owner_ ? "" : " on a strange thread";
+    const char* const thread = std::this_thread::get_id() == owner_ ? "" : " on the wrong thread";
     const core::Test* const test = request.GetTest();
     Log(std::string(step) + ' ' + (test == nullptr ? "drives" : std::to_string(test->Descriptor().id)) + " on " +
         IdOf(request) + " mode " + std::to_string(request.GetMode()) + thread);

@@ -11,15 +11,15 @@
 namespace orvik::tests {
 namespace {
 
-constexpr int kPatienceMilliseconds = 60000;
+constexpr int kTimeoutMilliseconds = 60000;
 
 QByteArray Contents(const QString& path) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// Text streams end their lines the Windows way there.
-QByteArray WithPlainLineEnds(QByteArray text) {
+// Text streams on Windows end lines with CR LF.
+QByteArray WithUnixLineEnds(QByteArray text) {
   return text.replace("\r\n", "\n");
 }
 
@@ -29,7 +29,7 @@ HostProcess::HostProcess() {
   EXPECT_TRUE(QFile::copy(HOST_PROGRAM, PathOf(QFileInfo(HOST_PROGRAM).fileName())));
   environment_[kLogEnvironment] = PathOf("log");
   environment_["LANG"] = "C.UTF-8";
-  // Nobody sits before a display to answer.
+  // No user is there to answer questions in a window.
   environment_["QT_QPA_PLATFORM"] = "offscreen";
 }
 
@@ -49,20 +49,20 @@ void HostProcess::Start(QProcess& process, const QStringList& arguments) const {
   }
   process.setProcessEnvironment(environment);
   process.start(PathOf(QFileInfo(HOST_PROGRAM).fileName()), arguments);
-  EXPECT_TRUE(process.waitForStarted(kPatienceMilliseconds));
+  EXPECT_TRUE(process.waitForStarted(kTimeoutMilliseconds));
 }
 
 Finished HostProcess::Run(const QStringList& arguments) const {
   QProcess process;
   Start(process, arguments);
-  EXPECT_TRUE(process.waitForFinished(kPatienceMilliseconds)) << arguments.join(' ').toStdString();
+  EXPECT_TRUE(process.waitForFinished(kTimeoutMilliseconds)) << arguments.join(' ').toStdString();
   EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-  return {process.exitCode(), WithPlainLineEnds(process.readAllStandardOutput()),
-          WithPlainLineEnds(process.readAllStandardError())};
+  return {process.exitCode(), WithUnixLineEnds(process.readAllStandardOutput()),
+          WithUnixLineEnds(process.readAllStandardError())};
 }
 
 QStringList HostProcess::LogLines() const {
-  return QString::fromUtf8(WithPlainLineEnds(Contents(PathOf("log")))).split('\n', Qt::SkipEmptyParts);
+  return QString::fromUtf8(WithUnixLineEnds(Contents(PathOf("log")))).split('\n', Qt::SkipEmptyParts);
 }
 
 }  // namespace orvik::tests

@@ -15,24 +15,24 @@ struct Finished {
   QByteArray err;
 };
 
-/// An installation of the host in a folder of its own: the program, and beside it whatever a test puts there.
+/// An installation of the host in a temporary folder: the program and the libraries that a test adds.
 class HostProcess {
  public:
   HostProcess();
 
-  /// Puts the fake module, or the fake simulation, where the host looks for the real one.
+  /// Installs the fake module or the fake simulation in place of the real one.
   void InstallModule() const;
   void InstallSimulation() const;
 
   void SetEnvironment(const QString& name, const QString& value) { environment_[name] = value; }
 
-  /// Starts the program; `process` is the caller's to wait for.
+  /// Starts the program without waiting for it.
   void Start(QProcess& process, const QStringList& arguments) const;
 
   /// Runs the program to its end.
   Finished Run(const QStringList& arguments) const;
 
-  /// Lines that the fakes have logged.
+  /// Lines logged by the fakes.
   QStringList LogLines() const;
 
   QString PathOf(const QString& name) const { return folder_.filePath(name); }

@@ -1,4 +1,4 @@
-// Stopping the program with signals, which other programs can send only on POSIX systems.
+// Stopping the program with signals. Only POSIX systems let other programs send them.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@
 namespace orvik::tests {
 namespace {
 
-constexpr int kPatienceMilliseconds = 60000;
+constexpr int kTimeoutMilliseconds = 60000;
 
 class InterruptTest : public testing::Test {
  protected:
@@ -24,7 +24,7 @@ class InterruptTest : public testing::Test {
     host_.SetEnvironment("FAKE_TESTS", "4,1");
   }
 
-  // Starts runs that would never end and waits until they are under way on both devices.
+  // Starts endless runs and waits until both devices are running.
   void Start(const QStringList& arguments = {"test", "--json"}) {
     process_.setChildProcessModifier([] { static_cast<void>(std::signal(SIGINT, SIG_DFL)); });
     host_.Start(process_, arguments);
@@ -33,7 +33,7 @@ class InterruptTest : public testing::Test {
 
   void WaitForBoth(const char* line) {
     process_.setReadChannel(QProcess::StandardError);
-    while (seen_.count(line) < 2 && process_.waitForReadyRead(kPatienceMilliseconds)) {
+    while (seen_.count(line) < 2 && process_.waitForReadyRead(kTimeoutMilliseconds)) {
       seen_ += process_.readAllStandardError();
     }
     ASSERT_EQ(seen_.count(line), 2);
@@ -46,35 +46,35 @@ class InterruptTest : public testing::Test {
   QByteArray seen_;
 };
 
-TEST_F(InterruptTest, RunsEndAsAbortedAndTheOutputIsComplete) {
+TEST_F(InterruptTest, RunsEndAsAbortedAndAreAllReported) {
   Start();
   Send(SIGINT);
-  ASSERT_TRUE(process_.waitForFinished(kPatienceMilliseconds));
+  ASSERT_TRUE(process_.waitForFinished(kTimeoutMilliseconds));
   EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit);
   EXPECT_EQ(process_.exitCode(), 3);
   const QJsonObject document = CheckedDocument(process_.readAllStandardOutput());
   const QJsonArray runs = document["runs"].toArray();
-  ASSERT_EQ(runs.size(), 4) << "runs that had not begun belong to the output";
+  ASSERT_EQ(runs.size(), 4) << "runs that had not started are reported too";
   for (const auto& run : runs) EXPECT_EQ(run.toObject()["result"].toObject()["word"].toString(), "aborted");
   EXPECT_EQ(document["errors"].toArray().size(), 1);
-  EXPECT_EQ(host_.LogLines().filter("run 1").size(), 0) << "nothing starts after the interruption";
+  EXPECT_EQ(host_.LogLines().filter("run 1").size(), 0) << "no run may start after the interruption";
   EXPECT_EQ(host_.LogLines().filter("finished 4").size(), 2);
 }
 
-TEST_F(InterruptTest, TerminationRequestStopsItToo) {
+TEST_F(InterruptTest, TerminationRequestStopsTheProgram) {
   Start();
   Send(SIGTERM);
-  ASSERT_TRUE(process_.waitForFinished(kPatienceMilliseconds));
+  ASSERT_TRUE(process_.waitForFinished(kTimeoutMilliseconds));
   EXPECT_EQ(process_.exitCode(), 3);
 }
 
-TEST_F(InterruptTest, SecondOneEndsAProgramThatHangs) {
+TEST_F(InterruptTest, SecondSignalEndsAHangingProgram) {
   host_.SetEnvironment("FAKE_MOOD", "stubborn");
   Start();
   Send(SIGINT);
   WaitForBoth("noticed\n");
   Send(SIGINT);
-  ASSERT_TRUE(process_.waitForFinished(kPatienceMilliseconds));
+  ASSERT_TRUE(process_.waitForFinished(kTimeoutMilliseconds));
   EXPECT_EQ(process_.exitStatus(), QProcess::CrashExit);
 }
 
@@ -82,7 +82,7 @@ TEST_F(InterruptTest, SelfTestIsAborted) {
   host_.SetEnvironment("FAKE_MOOD", "endless");
   Start({"selftest", "0:0", "--json"});
   Send(SIGINT);
-  ASSERT_TRUE(process_.waitForFinished(kPatienceMilliseconds));
+  ASSERT_TRUE(process_.waitForFinished(kTimeoutMilliseconds));
   EXPECT_EQ(process_.exitCode(), 3);
   const QJsonObject document = CheckedDocument(process_.readAllStandardOutput());
   EXPECT_EQ(document["selfTest"].toObject()["request"].toString(), "short");

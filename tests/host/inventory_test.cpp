@@ -13,7 +13,7 @@ using core::TestResult;
 class SelectionTest : public testing::Test {
  protected:
   SelectionTest() {
-    // The third device bears the index of the second as its id; two share an id.
+    // The third device's id equals the second one's index; two devices share an id.
     const char* const ids[] = {"A77F", "2822", "1", "A77F"};
     for (const char* const id : ids) {
       ListedDevice device;
@@ -29,7 +29,7 @@ class SelectionTest : public testing::Test {
   std::vector<ListedTest> tests_;
 };
 
-TEST_F(SelectionTest, DeviceIsChosenByIdBeforeIndex) {
+TEST_F(SelectionTest, DeviceIdTakesPrecedenceOverIndex) {
   const struct {
     std::vector<std::string> wanted;
     std::vector<int> chosen;
@@ -51,7 +51,7 @@ TEST_F(SelectionTest, DeviceIsChosenByIdBeforeIndex) {
   }
 }
 
-TEST_F(SelectionTest, TestIsChosenByIdKeyOrNameInAnyCase) {
+TEST_F(SelectionTest, TestIsSelectedByIdKeyOrNameInAnyCase) {
   const struct {
     std::vector<std::string> wanted;
     std::vector<int> chosen;
@@ -72,7 +72,7 @@ TEST_F(SelectionTest, TestIsChosenByIdKeyOrNameInAnyCase) {
   }
 }
 
-TEST(ExitCode, FailureOutranksDoubtAndDoubtOutranksWarning) {
+TEST(ExitCode, FailureOutranksNoVerdictAndNoVerdictOutranksWarning) {
   const struct {
     std::vector<RunOutcome> outcomes;
     ExitCode code;
@@ -81,10 +81,10 @@ TEST(ExitCode, FailureOutranksDoubtAndDoubtOutranksWarning) {
       {{TestResult::Passed, TestResult::NotApplicable}, ExitCode::AllRight},
       {{TestResult::Warning, TestResult::Passed}, ExitCode::Warning},
       {{TestResult::Failed, TestResult::Aborted, TestResult::Warning}, ExitCode::Failed},
-      {{TestResult::Warning, TestResult::Aborted}, ExitCode::CouldNotTell},
-      {{TestResult::Invalid}, ExitCode::CouldNotTell},
-      {{static_cast<TestResult>(77)}, ExitCode::CouldNotTell},
-      {{Error{"interrupted"}, TestResult::Passed}, ExitCode::CouldNotTell},
+      {{TestResult::Warning, TestResult::Aborted}, ExitCode::NoVerdict},
+      {{TestResult::Invalid}, ExitCode::NoVerdict},
+      {{static_cast<TestResult>(77)}, ExitCode::NoVerdict},
+      {{Error{"interrupted"}, TestResult::Passed}, ExitCode::NoVerdict},
   };
   for (const auto& each : cases) {
     ExitCode code = ExitCode::AllRight;

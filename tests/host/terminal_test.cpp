@@ -1,4 +1,4 @@
-// The program on a terminal: a pseudo-terminal takes the place of one of its streams.
+// The program on a terminal: one of its streams is a pseudo-terminal.
 
 #include <gtest/gtest.h>
 
@@ -35,7 +35,7 @@ class TerminalTest : public testing::Test {
     close(terminal_);
   }
 
-  // Runs the program with the terminal behind one of its streams; returns what appeared there.
+  // Runs the program with the terminal as one of its streams; returns what appeared there.
   QByteArray Show(int stream) {
     QProcess process;
     process.setChildProcessModifier([this, stream] { dup2(screen_, stream); });
@@ -54,10 +54,10 @@ class TerminalTest : public testing::Test {
   int screen_ = -1;
 };
 
-TEST_F(TerminalTest, BarsAreDrawnAndTakenBack) {
+TEST_F(TerminalTest, BarsAreDrawnAndErased) {
   const QByteArray shown = Show(STDERR_FILENO);
   EXPECT_TRUE(shown.contains("Device 0: RAID status test"));
-  EXPECT_TRUE(shown.endsWith("\x1b[1A\r\x1b[J")) << "a bar was left behind";
+  EXPECT_TRUE(shown.endsWith("\x1b[1A\r\x1b[J")) << "a bar remained";
   EXPECT_TRUE(piped_.endsWith("4 runs: 2 passed, 2 failed\n"));
   EXPECT_FALSE(piped_.contains('\x1b'));
 
@@ -66,14 +66,14 @@ TEST_F(TerminalTest, BarsAreDrawnAndTakenBack) {
   EXPECT_FALSE(Show(STDERR_FILENO).contains('\x1b'));
 }
 
-TEST_F(TerminalTest, ColoursAreForTerminalsThatWantThem) {
+TEST_F(TerminalTest, ColoursNeedATerminalWithoutNoColor) {
   EXPECT_TRUE(Show(STDOUT_FILENO).contains("\x1b[31mfailed\x1b[0m"));
   EXPECT_EQ(piped_, "");
   host_.SetEnvironment("NO_COLOR", "1");
   EXPECT_FALSE(Show(STDOUT_FILENO).contains('\x1b'));
 }
 
-TEST_F(TerminalTest, QuestionsAreAskedThereUntilTheAnswerIsUnderstood) {
+TEST_F(TerminalTest, QuestionsAreRepeatedUntilTheAnswerIsValid) {
   host_.SetEnvironment("FAKE_TESTS", QString::number(kAsk));
   const QByteArray answers = "what?\nCANCEL\n";
   ASSERT_EQ(write(terminal_, answers.data(), static_cast<std::size_t>(answers.size())), answers.size());

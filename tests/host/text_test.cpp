@@ -29,7 +29,7 @@ TEST(DisplayText, IsSafeToShow) {
   for (const auto& each : cases) EXPECT_EQ(DisplayText(each.device), QString::fromUtf16(each.shown)) << each.device;
 }
 
-TEST(Message, IsTakenApart) {
+TEST(Message, SplitsIntoKeyAndValue) {
   const struct {
     const char* text;
     const char* key;
@@ -53,7 +53,7 @@ TEST(Message, IsTakenApart) {
   }
 }
 
-TEST(ProgressLine, NeverGrowsBeyondItsColumns) {
+TEST(ProgressLine, HasExactlyTheRequestedWidth) {
   for (const int columns : {100, 79, 40, 20}) {
     for (const int percent : {0, 1, 50, 99, 100}) {
       EXPECT_EQ(ProgressLine(QString(60, 'x'), percent, columns).size(), columns);

@@ -1,4 +1,4 @@
-// The texts in every language: nothing that the module or the program can say may be left out.
+// Completeness of the translations: every text of the module and the program in every language.
 
 #include <gtest/gtest.h>
 
@@ -35,7 +35,7 @@ Texts ReadTexts(const QString& language) {
         forms << xml.readElementText(QXmlStreamReader::IncludeChildElements).simplified();
       }
     } else if (token == QXmlStreamReader::EndElement && name == u"message") {
-      EXPECT_FALSE(texts.contains(key.join('/'))) << "twice: " << key[1].toStdString();
+      EXPECT_FALSE(texts.contains(key.join('/'))) << "duplicate: " << key[1].toStdString();
       texts[key.join('/')] = forms;
     }
   }
@@ -50,7 +50,7 @@ QSet<QString> Placeholders(const QString& text) {
   return found;
 }
 
-// What the program's sources ask to be translated.
+// The texts that the program's sources translate.
 QSet<QString> ProgramTexts() {
   static const QRegularExpression call(
       QStringLiteral(R"re(translate\(\s*"orvik-diag",\s*"((?:[^"\\]|\\.)*)"(?:,\s*"([^"]*)")?)re"));
@@ -69,7 +69,7 @@ QSet<QString> ProgramTexts() {
   return keys;
 }
 
-// What the module hands out untranslated.
+// The keys that the module returns untranslated.
 QSet<QString> ModuleKeys() {
   QFile file(QStringLiteral(TRANSLATIONS_FOLDER "/keys.txt"));
   EXPECT_TRUE(file.open(QIODevice::ReadOnly));
@@ -83,17 +83,17 @@ QSet<QString> ModuleKeys() {
 
 class TranslationsTest : public testing::TestWithParam<const char*> {};
 
-TEST_P(TranslationsTest, HaveATextForEverythingAndNothingElse) {
+TEST_P(TranslationsTest, AreCompleteAndHaveNoUnusedTexts) {
   const QSet<QString> wanted = ProgramTexts() + ModuleKeys();
   const Texts texts = ReadTexts(GetParam());
   const QSet<QString> present(texts.keyBegin(), texts.keyEnd());
   for (const QString& key : wanted - present) ADD_FAILURE() << "missing: " << key.toStdString();
-  for (const QString& key : present - wanted) ADD_FAILURE() << "of no use: " << key.toStdString();
+  for (const QString& key : present - wanted) ADD_FAILURE() << "unused: " << key.toStdString();
   for (auto text = texts.begin(); text != texts.end(); ++text) {
     const QString joined = text.value().join(' ');
     EXPECT_FALSE(joined.isEmpty()) << text.key().toStdString();
     EXPECT_EQ(Placeholders(text.key()), Placeholders(joined)) << text.key().toStdString();
-    EXPECT_FALSE(joined.contains('_')) << "a key in place of a text: " << text.key().toStdString();
+    EXPECT_FALSE(joined.contains('_')) << "a key instead of a text: " << text.key().toStdString();
   }
 }
 
