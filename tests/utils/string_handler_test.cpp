@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstring>
+#include <limits>
 
 #include "utils/text/string_handler.h"
 #include "utils/text/text_conversion.h"
@@ -37,7 +38,15 @@ TEST(StringHandlerTest, JudgesTexts) {
   EXPECT_LT(Handler().CompareN("abc", "abd", 3), 0);
   EXPECT_EQ(Handler().CompareN("abc", "abd", 2), 0);
   EXPECT_EQ(Handler().BoundedLength("abc", 2), 2U);
-  EXPECT_EQ(Handler().BoundedLength("abc", 9), 3U);
+  constexpr auto kNoLimit = std::numeric_limits<std::size_t>::max();
+  for (const std::size_t maximum : {std::size_t{3}, std::size_t{9}, kNoLimit - 1, kNoLimit}) {
+    EXPECT_EQ(Handler().BoundedLength("abc", maximum), 3U) << maximum;
+    EXPECT_EQ(Handler().BoundedWideLength(TEXT("abc"), maximum), 3U) << maximum;
+    EXPECT_TRUE(Handler().IsNumeric("123", maximum)) << maximum;
+    std::array<char, 4> copy{};
+    EXPECT_EQ(Handler().CopyBounded(copy.data(), copy.size(), "abc", maximum), 0U) << maximum;
+    EXPECT_STREQ(copy.data(), "abc") << maximum;
+  }
   EXPECT_EQ(Handler().BoundedLength(nullptr, 9), 0U);
   EXPECT_EQ(Handler().BoundedWideLength(TEXT("ab"), 9), 2U);
 }

@@ -17,7 +17,10 @@ namespace {
 template <typename Character>
 std::size_t LengthUpTo(const Character* characters, std::size_t maximum) {
   if (characters == nullptr) return 0;
-  return static_cast<std::size_t>(std::find(characters, characters + maximum, Character{0}) - characters);
+  // Callers pass the largest size for "no limit", so `characters + maximum` may not be computed.
+  std::size_t length = 0;
+  while (length < maximum && characters[length] != Character{0}) ++length;
+  return length;
 }
 
 template <typename String>
@@ -35,19 +38,19 @@ char Lower(char character) {
 }
 
 bool Overlap(const char* left, std::size_t leftSize, const char* right, std::size_t rightSize) {
-  // std::less orders pointers into different objects too.
+  // std::less also orders pointers into different objects.
   const std::less<> before;
   return before(left, right + rightSize) && before(right, left + leftSize);
 }
 
-/// The count of a formatting call, unless it failed or left no room for the terminating zero: not every runtime
-/// library calls that a failure.
+/// The count of a formatting call, unless it failed or left no room for the terminating zero, which not every runtime
+/// library reports as a failure.
 std::uint32_t CountOrError(int written, std::size_t size) {
   const bool fits = written >= 0 && static_cast<std::size_t>(written) < size;
   return fits ? static_cast<std::uint32_t>(written) : StringHandler::kError;
 }
 
-/// Holds on until the process ends, but has no memory that an unloaded library would leave behind.
+/// Never destroyed, and owns no memory that an unloaded library would leak.
 union NeverDestroyed {
   NeverDestroyed() : object() {}
   NeverDestroyed(const NeverDestroyed&) = delete;
