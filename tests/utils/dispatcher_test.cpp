@@ -119,6 +119,23 @@ TEST_F(ReservationTest, ReleasesADeviceThatHasGone) {
   }
 }
 
+TEST_F(ReservationTest, ReleasesEachOfTwoRunsAfterTheirDeviceHasGone) {
+  const auto sharedRun = Request(first_, 1, shared_);
+  const auto exclusiveRun = Request(first_, 0, exclusive_);
+  dispatcher_.NotifyStarted(sharedRun);
+  dispatcher_.NotifyStarted(exclusiveRun);
+  first_.reset();
+  dispatcher_.NotifyFinished(sharedRun);
+  EXPECT_FALSE(dispatcher_.CanStart(Request(second_, 1, exclusive_)));
+  dispatcher_.NotifyFinished(exclusiveRun);
+  EXPECT_TRUE(dispatcher_.CanStart(Request(second_, 0, exclusive_)));
+  EXPECT_TRUE(dispatcher_.CanStart(Request(std::make_shared<NamedDevice>("2822"), 1, shared_)));
+  // A finished run has nothing left to release: another run's place is not its own.
+  dispatcher_.NotifyStarted(Request(second_, 0, exclusive_));
+  dispatcher_.NotifyFinished(exclusiveRun);
+  EXPECT_FALSE(dispatcher_.CanStart(Request(std::make_shared<NamedDevice>("43D6"), 0, shared_)));
+}
+
 TEST_F(ReservationTest, EmptyRequestsAreNoObstacle) {
   const std::unique_ptr<DispatchRequest> none;
   EXPECT_TRUE(dispatcher_.CanStart(none));
@@ -148,9 +165,9 @@ TEST(ThreadPoolTest, RunsTasksInOrderAndHandsOutResults) {
   std::vector<int> order;
   pool.Submit([&order] { order.push_back(1); });
   auto failure = pool.Submit([] { throw std::runtime_error("lost unless asked for"); });
-  pool.Submit([&order] { order.push_back(2); }).Get();
+  pool.Submit([&order] { order.push_back(2); }).get();
   EXPECT_EQ(order, (std::vector<int>{1, 2}));
-  EXPECT_THROW(failure.Get(), std::runtime_error);
+  EXPECT_THROW(failure.get(), std::runtime_error);
 }
 
 TEST(ThreadPoolTest, FinishesTheRunningTaskAndDropsTheQueuedOnes) {
@@ -187,26 +204,31 @@ TEST(ThreadPoolTest, EveryTaskFindsAWorkerOfItsOwn) {
   }
 }
 
-TEST(PackagedTaskTest, TellsOfMisuseAndOfTasksThatNeverRan) {
-  const auto code = [](const std::function<void()>& misuse) {
-    try {
-      misuse();
-    } catch (const std::future_error& error) {
-      return error.code();
-    }
-    return std::error_code();
+TEST(ThreadPoolTest, BreaksThePromiseOfAFunctionThatNeverRuns) {
+  std::future<void> never;
+  {
+    ThreadPool pool;
+    pool.Stop();
+    never = pool.Submit([] {});
+  }
+  EXPECT_THROW(never.get(), std::future_error);
+}
+
+TEST(DispatcherTest, DestroysEachTaskOnceAfterItsExecution) {
+  struct Counting final : core::TaskInterface {
+    Counting(std::atomic<int>& executions, std::promise<int>& destruction)
+        : executed(executions), destroyed(destruction) {}
+    ~Counting() override { destroyed.set_value(executed); }
+    void Execute() override { ++executed; }
+
+    std::atomic<int>& executed;
+    std::promise<int>& destroyed;
   };
-  EXPECT_EQ(code([] { core::Task(PackagedTask()).Execute(); }), std::future_errc::no_state);
-  auto [task, future] = Package([] {});
-  task->Execute();
-  EXPECT_EQ(code([&task = task] { task->Execute(); }), std::future_errc::promise_already_satisfied);
-  task.reset();
-  EXPECT_NO_THROW(future.Get());
-  TaskQueue queue;
-  queue.Invalidate();
-  auto [late, never] = Package([] {});
-  queue.Push(std::move(late));
-  EXPECT_EQ(code([&never = never] { never.Get(); }), std::future_errc::broken_promise);
+  std::atomic<int> executed = 0;
+  std::promise<int> destroyed;
+  GeneralDiagnosticDispatcher dispatcher;
+  dispatcher.Dispatch(std::make_unique<Counting>(executed, destroyed));
+  EXPECT_EQ(destroyed.get_future().get(), 1);
 }
 
 TEST(TaskQueueTest, EndsWaitingWhenInvalidated) {

@@ -39,8 +39,7 @@ bool GeneralDiagnosticDispatcher::CanStart(const std::unique_ptr<core::DispatchR
 
 void GeneralDiagnosticDispatcher::Dispatch(std::unique_ptr<core::TaskInterface> task) {
   if (task == nullptr) return;
-  // Nobody waits for the outcome.
-  pool_.Post([owned = std::move(task)] { owned->Execute(); });
+  pool_.Post(std::move(task));
 }
 
 void GeneralDiagnosticDispatcher::NotifyStarted(const std::unique_ptr<core::DispatchRequest>& request) {
@@ -50,7 +49,9 @@ void GeneralDiagnosticDispatcher::NotifyStarted(const std::unique_ptr<core::Disp
 
   if (WantsExclusiveTest(*request)) exclusiveTestRunning_ = true;
   const std::string id = device->GetId();
-  reservedIds_[device] = id;
+  Reservation& reservation = reservations_[device];
+  reservation.id = id;
+  ++reservation.count;
   if (request->GetMode() == core::DispatchRequest::kSharedMode) {
     runningDevices_.insert(id);
   } else {
@@ -60,17 +61,17 @@ void GeneralDiagnosticDispatcher::NotifyStarted(const std::unique_ptr<core::Disp
 
 void GeneralDiagnosticDispatcher::NotifyFinished(const std::unique_ptr<core::DispatchRequest>& request) {
   if (request == nullptr) return;
-  const auto reserved = reservedIds_.find(request->GetDevice());
+  const auto reservation = reservations_.find(request->GetDevice());
   const auto device = request->GetDevice().lock();
-  if (device == nullptr && reserved == reservedIds_.end()) return;
+  if (device == nullptr && reservation == reservations_.end()) return;
 
   if (WantsExclusiveTest(*request)) exclusiveTestRunning_ = false;
   if (request->GetMode() == core::DispatchRequest::kSharedMode) {
-    runningDevices_.erase(device != nullptr ? device->GetId() : reserved->second);
+    runningDevices_.erase(device != nullptr ? device->GetId() : reservation->second.id);
   } else {
     exclusiveHolder_.reset();
   }
-  if (reserved != reservedIds_.end()) reservedIds_.erase(reserved);
+  if (reservation != reservations_.end() && --reservation->second.count == 0) reservations_.erase(reservation);
 }
 
 }  // namespace orvik::utils

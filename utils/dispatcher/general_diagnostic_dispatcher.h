@@ -12,8 +12,8 @@
 
 namespace orvik::utils {
 
-/// Runs the host's work on a pool of workers and keeps the book of reserved devices. The book has no lock: the host
-/// calls the reservation operations from one thread at a time. Must not be destroyed on one of its own workers.
+/// Runs the host's tasks on a pool of workers and records which devices are reserved. The reservations have no lock:
+/// the host calls their operations from one thread at a time. Must not be destroyed on one of its own workers.
 class GeneralDiagnosticDispatcher final : public core::DiagnosticDispatcher {
  public:
   explicit GeneralDiagnosticDispatcher(unsigned hardwareThreads = std::thread::hardware_concurrency());
@@ -24,15 +24,21 @@ class GeneralDiagnosticDispatcher final : public core::DiagnosticDispatcher {
   void NotifyFinished(const std::unique_ptr<core::DispatchRequest>& request) override;
   void NotifyStarted(const std::unique_ptr<core::DispatchRequest>& request) override;
 
-  /// One worker fewer than the machine's hardware threads, but at least one; two when their number isn't known (0).
+  /// One worker fewer than the hardware threads of the machine, but at least one; two when their number is unknown
+  /// (0).
   static std::size_t WorkerCount(unsigned hardwareThreads);
 
  private:
+  struct Reservation {
+    std::string id;
+    int count = 0;  ///< `NotifyStarted` without its `NotifyFinished`
+  };
+
   std::set<std::string> runningDevices_;
   std::unique_ptr<std::string> exclusiveHolder_;
   bool exclusiveTestRunning_ = false;
-  // A device that goes away while it is reserved can't be asked for its id any more.
-  std::map<std::weak_ptr<core::Device>, std::string, std::owner_less<>> reservedIds_;
+  // By device, also after it was destroyed and can no longer return its id.
+  std::map<std::weak_ptr<core::Device>, Reservation, std::owner_less<>> reservations_;
   ThreadPool pool_;
 };
 

@@ -3,31 +3,31 @@
 #include <stdexcept>
 #include <utility>
 
-void TaskQueue::Push(orvik::utils::QueuedTask task) {
-  bool call = false;
+void TaskQueue::Push(std::unique_ptr<orvik::core::TaskInterface> task) {
+  bool wake = false;
   {
     const std::lock_guard lock(mutex_);
     if (invalidated_) return;
     entries_.push_back(std::move(task));
-    call = CallsSleeper();
+    wake = ShouldWakeConsumer();
   }
-  if (call) available_.notify_one();
+  if (wake) available_.notify_one();
 }
 
-orvik::utils::QueuedTask TaskQueue::Pop() {
+std::unique_ptr<orvik::core::TaskInterface> TaskQueue::Pop() {
   std::unique_lock lock(mutex_);
   while (entries_.empty() && !invalidated_) {
     ++sleeping_;
-    available_.wait(lock, [this] { return called_ || invalidated_; });
+    available_.wait(lock, [this] { return waking_ || invalidated_; });
     --sleeping_;
-    called_ = false;
+    waking_ = false;
   }
   if (entries_.empty()) throw std::logic_error("Invalidated queue!");
   auto task = std::move(entries_.front());
   entries_.pop_front();
-  const bool call = CallsSleeper();
+  const bool wake = ShouldWakeConsumer();
   lock.unlock();
-  if (call) available_.notify_one();
+  if (wake) available_.notify_one();
   return task;
 }
 
@@ -43,8 +43,8 @@ void TaskQueue::Invalidate() {
   available_.notify_all();
 }
 
-bool TaskQueue::CallsSleeper() {
-  if (sleeping_ == 0 || called_ || entries_.empty()) return false;
-  called_ = true;
+bool TaskQueue::ShouldWakeConsumer() {
+  if (sleeping_ == 0 || waking_ || entries_.empty()) return false;
+  waking_ = true;
   return true;
 }

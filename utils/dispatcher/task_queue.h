@@ -7,9 +7,9 @@
 #include <memory>
 #include <mutex>
 
-#include "utils/dispatcher/packaged_task.h"
+#include "core/dispatcher.h"
 
-/// First in, first out, between any number of threads.
+/// A first-in, first-out queue of tasks for any number of producers and consumers. Owns the tasks in it.
 class TaskQueue {
  public:
   TaskQueue() = default;
@@ -17,30 +17,30 @@ class TaskQueue {
   TaskQueue& operator=(const TaskQueue&) = delete;
   virtual ~TaskQueue() = default;
 
-  /// Appends the task and sees to it that one waiting consumer looks for it; destroys the task at once when the queue
-  /// is invalidated.
-  void Push(orvik::utils::QueuedTask task);
+  /// Appends the task and wakes a waiting consumer if none is waking up already. Destroys the task at once when the
+  /// queue is invalidated.
+  void Push(std::unique_ptr<orvik::core::TaskInterface> task);
 
-  /// Waits for an entry. Throws `std::logic_error` "Invalidated queue!" when the queue is invalidated and empty.
-  orvik::utils::QueuedTask Pop();
+  /// Waits for an entry and removes it. Throws `std::logic_error` "Invalidated queue!", as the contract requires,
+  /// when the queue is invalidated and empty.
+  std::unique_ptr<orvik::core::TaskInterface> Pop();
 
   bool IsValid() const;
 
-  /// Ends all waiting; entries that are still queued are destroyed with the queue.
+  /// Ends all waiting. Entries that are still queued are destroyed with the queue.
   void Invalidate();
 
  private:
-  /// Whether a sleeping consumer is to be notified; the books then have it called.
-  bool CallsSleeper();
+  /// Whether the caller must notify a consumer once it has released the lock.
+  bool ShouldWakeConsumer();
 
-  std::deque<orvik::utils::QueuedTask> entries_;
+  std::deque<std::unique_ptr<orvik::core::TaskInterface>> entries_;
   std::mutex mutex_;
   std::atomic<bool> invalidated_ = false;
   std::condition_variable available_;
 
-  // Waking a thread costs more than most entries' way through the queue. Therefore consumers are called one at a
-  // time, and the next one by whoever takes an entry and leaves others behind, so that all wake up where there is
-  // work for all.
+  // Waking a thread costs more than passing most entries through the queue, so one consumer is woken at a time. A
+  // consumer that takes an entry and leaves others behind wakes the next one.
   std::size_t sleeping_ = 0;
-  bool called_ = false;  // one that has not woken up yet
+  bool waking_ = false;
 };

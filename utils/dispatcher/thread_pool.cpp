@@ -27,13 +27,13 @@ void ThreadPool::Stop() {
 }
 
 void ThreadPool::Work() {
-  // The turn is the mask value itself, not a bit number.
+  // The contract uses the value itself as the mask; it is not a bit number.
   SetThreadAffinityMask(GetCurrentThread(), startCounter_++ % affinityModulus_ + 1);
   while (!stopping_ && queue_.IsValid()) {
     try {
       queue_.Pop()->Execute();
-    } catch (
-        ...) {  // NOLINT(bugprone-empty-catch): a task's failure is its owner's; "Invalidated queue!" ends the loop
+    } catch (...) {  // NOLINT(bugprone-empty-catch)
+      // A task's exception is lost; the one of an ended queue ends the loop.
     }
   }
 }

@@ -2,14 +2,16 @@
 
 #include <atomic>
 #include <cstdint>
+#include <future>
+#include <memory>
 #include <thread>
 #include <utility>
 #include <vector>
 
-#include "utils/dispatcher/packaged_task.h"
 #include "utils/dispatcher/task_queue.h"
 
-/// Worker threads over one task queue. Each worker is pinned to a processor mask of its own turn: 2, 3, 4, 1, 2, ...
+/// Worker threads that share one task queue. The workers are pinned to the processor masks 2, 3, 4, 1, 2, ... in the
+/// order in which they start.
 class ThreadPool {
  public:
   ThreadPool() = default;
@@ -17,27 +19,24 @@ class ThreadPool {
   ThreadPool& operator=(const ThreadPool&) = delete;
   virtual ~ThreadPool();
 
-  /// Starts the workers. When a thread can't be made, stops those that run and throws `std::system_error`
+  /// Starts the workers. If a thread cannot be created, stops the running ones and throws `std::system_error`
   /// (resource_unavailable_try_again).
   void Start(std::size_t workerCount);
 
-  /// Queues the function; its result or exception ends up in the future.
+  /// Queues the task as it was handed over. An exception that it throws is lost.
+  void Post(std::unique_ptr<orvik::core::TaskInterface> task) { queue_.Push(std::move(task)); }
+
+  /// Queues the function. Its result or exception is stored in the future; a function that never runs breaks the
+  /// promise.
   template <typename Function>
-  orvik::utils::TaskFuture Submit(Function function) {
-    auto [task, future] = orvik::utils::Package(std::move(function));
-    queue_.Push(std::move(task));
-    return std::move(future);
+  std::future<void> Submit(Function function) {
+    std::packaged_task<void()> packaged(std::move(function));
+    auto future = packaged.get_future();
+    Post(std::make_unique<orvik::core::Task<std::packaged_task<void()>>>(std::move(packaged)));
+    return future;
   }
 
-  /// As `Submit` for whoever drops the future: it goes before the task can be on its way in another processor's
-  /// cache.
-  template <typename Function>
-  void Post(Function function) {
-    auto task = orvik::utils::Package(std::move(function)).first;
-    queue_.Push(std::move(task));
-  }
-
-  /// Lets running tasks finish and joins every worker; queued tasks never run. Does nothing the second time. Must not
+  /// Waits for running tasks and joins every worker; queued tasks never run. Does nothing when called again. Must not
   /// be called on a worker.
   void Stop();
 
