@@ -40,12 +40,17 @@ TEST_F(FileIo, RefusesWhatCannotBeOpenedOrClosed) {
 
   for (WCHAR& c : path) c = c >= 'a' && c <= 'z' ? static_cast<WCHAR>(c - 32) : c;
   HANDLE file = Open(path);
+  HANDLE other = Open(path);
+  EXPECT_NE(other, file);
+  EXPECT_TRUE(CloseHandle(other));
   EXPECT_EQ(machine->Ledger().Outstanding(simulation::Resource::FileHandle), 1U);
   EXPECT_TRUE(CloseHandle(file));
   EXPECT_FALSE(CloseHandle(file));
   EXPECT_EQ(GetLastError(), ERROR_INVALID_HANDLE);
   EXPECT_EQ(machine->Ledger().OutstandingTotal(), 0U);
   EXPECT_EQ(machine->Ledger().InvalidReleases(), 1U);
+  EXPECT_EQ(Open(path), file) << "values are reused, last freed first";
+  EXPECT_EQ(Open(path), other);
 }
 
 }  // namespace
