@@ -5,8 +5,8 @@
 #include "fuzz/host.h"
 #include "fuzz/input.h"
 #include "module/raid/entry/device_scanner.h"
-#include "simulation/json/readers.h"
 #include "simulation/machine/current_machine.h"
+#include "simulation/machine/load_machine.h"
 
 namespace {
 

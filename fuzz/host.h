@@ -6,7 +6,7 @@
 
 #include "module/raid/device_records.h"
 #include "module/storage/protocol.h"
-#include "simulation/machine/machine_description.h"
+#include "simulation/machine/machine.h"
 
 namespace orvik::fuzz {
 

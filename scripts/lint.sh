@@ -30,9 +30,9 @@ only_in() {
 
 rule "calls that have one home"
 only_in '\b(memcpy|memmove|memset|strcpy|sprintf)\b' \
-  "raw copies belong behind the bounded views" utils/bytes simulation/bytes
+  "raw copies belong behind the bounded views" utils/bytes simulation/bytes.h
 only_in 'reinterpret_cast|__attribute__\(\(packed|#pragma pack' \
-  "casts of buffers belong into the headers for bytes" utils/bytes simulation/bytes \
+  "casts of buffers belong into the headers for bytes" utils/bytes simulation/bytes.h \
   utils/windows/unique_handle.h platform/hostkit/libraries.cpp platform/windows host/library
 only_in '\b(CloseHandle|SetupDiDestroyDeviceInfoList)\(' \
   "handles belong to owners" utils/windows/unique_handle.h platform/windows

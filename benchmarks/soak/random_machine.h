@@ -2,7 +2,7 @@
 
 #include <random>
 
-#include "simulation/machine/machine_description.h"
+#include "simulation/machine/machine.h"
 
 namespace orvik::benchmarks {
 

@@ -6,7 +6,7 @@
 #include <bit>
 #include <span>
 
-#include "platform/windows/failure.h"
+#include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 #include "simulation/machine/current_machine.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "simulation/text/fold_case.h"
+#include "simulation/identifiers.h"
 
 namespace orvik::platform::windows {
 

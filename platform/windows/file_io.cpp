@@ -8,9 +8,8 @@
 #include <span>
 #include <vector>
 
-#include "platform/windows/failure.h"
 #include "platform/windows/handle_table.h"
-#include "platform/windows/system_handles.h"
+#include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 #include "simulation/machine/current_machine.h"
 

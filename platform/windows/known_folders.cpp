@@ -10,8 +10,7 @@
 #include <mutex>
 #include <utility>
 
-#include "platform/windows/failure.h"
-#include "platform/windows/system_handles.h"
+#include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 #include "simulation/machine/current_machine.h"
 

@@ -10,10 +10,8 @@
 #include <bit>
 #include <string>
 
-#include "platform/windows/dpi_library.h"
-#include "platform/windows/failure.h"
-#include "platform/windows/library_faults.h"
-#include "platform/windows/library_references.h"
+#include "platform/windows/loaded_libraries.h"
+#include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 #include "simulation/machine/current_machine.h"
 

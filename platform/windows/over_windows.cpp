@@ -8,11 +8,8 @@
 #include <array>
 #include <bit>
 
-#include "platform/windows/dpi_library.h"
-#include "platform/windows/failure.h"
-#include "platform/windows/library_faults.h"
-#include "platform/windows/library_references.h"
-#include "platform/windows/system_handles.h"
+#include "platform/windows/loaded_libraries.h"
+#include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 #include "simulation/machine/current_machine.h"
 

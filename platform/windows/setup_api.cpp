@@ -7,8 +7,8 @@
 #include <cstddef>
 
 #include "platform/windows/device_info_set.h"
-#include "platform/windows/failure.h"
 #include "platform/windows/handle_table.h"
+#include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 #include "simulation/machine/current_machine.h"
 

@@ -5,7 +5,7 @@
 #include <sched.h>
 #include <unistd.h>
 
-#include "platform/windows/failure.h"
+#include "platform/windows/system.h"
 #include "simulation/machine/current_machine.h"
 
 namespace windows = orvik::platform::windows;

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "simulation/csmi/csmi_layout.h"
-#include "simulation/csmi/csmi_return_codes.h"
 
 namespace orvik::simulation {
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "simulation/drives/drive_descriptions.h"
+#include "simulation/drives/base/drive_descriptions.h"
 
 namespace orvik::simulation {
 

@@ -5,8 +5,7 @@
 
 #include "simulation/csmi/csmi_controller.h"
 #include "simulation/csmi/csmi_layout.h"
-#include "simulation/csmi/csmi_return_codes.h"
-#include "simulation/drives/ata/register_fis.h"
+#include "simulation/drives/ata/ata_registers.h"
 
 namespace orvik::simulation {
 

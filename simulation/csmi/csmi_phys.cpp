@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "simulation/csmi/csmi_layout.h"
-#include "simulation/csmi/csmi_return_codes.h"
 
 namespace orvik::simulation {
 

@@ -4,7 +4,6 @@
 
 #include "simulation/csmi/csmi_controller.h"
 #include "simulation/csmi/csmi_layout.h"
-#include "simulation/csmi/csmi_return_codes.h"
 
 namespace orvik::simulation {
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "simulation/csmi/csmi_layout.h"
-#include "simulation/machine/io_errors.h"
+#include "simulation/io_device.h"
 
 namespace orvik::simulation {
 

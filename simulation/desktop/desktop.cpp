@@ -1,6 +1,10 @@
 #include "simulation/desktop/desktop.h"
 
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QMetaObject>
 #include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <utility>
@@ -32,6 +36,27 @@ std::string AccountName() {
     if (value != nullptr && *value != '\0') return value;
   }
   return "user";
+}
+
+constexpr std::uint32_t kThemeChanged = 0x031A;  // WM_THEMECHANGED
+
+// A message as the system hands it to a window, with its natural alignment.
+struct WindowMessage {
+  std::uint64_t window{};
+  std::uint32_t message{};
+  std::uint64_t wordParameter{};
+  std::uint64_t longParameter{};
+  std::uint32_t time{};
+  std::int32_t pointX{};
+  std::int32_t pointY{};
+};
+static_assert(sizeof(WindowMessage) == 48);
+
+void ShowToFilters() {
+  WindowMessage message{.message = kThemeChanged};
+  qintptr result = 0;
+  if (auto* dispatcher = QAbstractEventDispatcher::instance(); dispatcher != nullptr)
+    dispatcher->filterNativeEvent(QByteArrayLiteral("windows_generic_MSG"), &message, &result);
 }
 
 }  // namespace
@@ -93,6 +118,13 @@ std::vector<std::uint64_t> Desktop::ForegroundWindows() const {
 std::vector<std::uint32_t> Desktop::DpiAwareness() const {
   const std::scoped_lock lock(mutex_);
   return awareness_;
+}
+
+void Desktop::AnnounceTheme() {
+  auto* application = QCoreApplication::instance();
+  if (application != nullptr)
+    QMetaObject::invokeMethod(
+        application, [] { ShowToFilters(); }, Qt::QueuedConnection);
 }
 
 }  // namespace orvik::simulation

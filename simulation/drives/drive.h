@@ -7,9 +7,9 @@
 #include <string>
 #include <variant>
 
-#include "simulation/clock/clock.h"
+#include "simulation/clock.h"
 #include "simulation/drives/ata/ata_drive.h"
-#include "simulation/drives/drive_descriptions.h"
+#include "simulation/drives/base/drive_descriptions.h"
 #include "simulation/drives/nvme/nvme_drive.h"
 #include "simulation/drives/scsi/scsi_drive.h"
 

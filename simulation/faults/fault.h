@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -40,5 +41,10 @@ struct FaultRule {
   std::optional<std::uint64_t> call{};
   FaultEffects effects{};
 };
+
+/// Damages `reply`, the answer to `request`, as `effects` say: first garbles what follows the first `headerSize`
+/// bytes, then patches, then truncates. `returned` is the count of bytes that come back.
+void Distort(const FaultEffects& effects, std::size_t headerSize, std::span<const std::uint8_t> request,
+             std::span<std::uint8_t> reply, std::size_t& returned);
 
 }  // namespace orvik::simulation

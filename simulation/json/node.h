@@ -1,7 +1,7 @@
 #pragma once
 
 // A strict reader of JSON documents. It writes a target only when the document has a fitting value there, and keeps
-// the first complaint, so that a reader runs through its document and is judged once at the end.
+// the first complaint, so that a reader runs through its document and checks for errors once at the end.
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -17,7 +17,7 @@
 #include <utility>
 #include <vector>
 
-#include "simulation/adapters/guid.h"
+#include "simulation/identifiers.h"
 
 namespace orvik::simulation {
 
@@ -146,6 +146,22 @@ class Node {
   QJsonValue value_;
   std::string place_;
   Complaint* complaint_;
+};
+
+/// Reads the members of an object by their keys. What has not been asked for when `End` is called is a complaint.
+class ObjectReader {
+ public:
+  explicit ObjectReader(const Node& node);
+
+  /// A missing member is a complaint that expects `expected` there.
+  Node Required(std::string_view key, std::string_view expected);
+  Node Optional(std::string_view key);
+  void End() const;
+
+ private:
+  Node node_;
+  QJsonObject object_;
+  std::vector<std::string_view> known_;
 };
 
 }  // namespace orvik::simulation

@@ -1,5 +1,5 @@
 #include "simulation/csmi/nvme_paths.h"
-#include "simulation/json/object_reader.h"
+#include "simulation/json/node.h"
 #include "simulation/json/readers.h"
 
 namespace orvik::simulation {

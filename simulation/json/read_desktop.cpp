@@ -1,4 +1,4 @@
-#include "simulation/json/object_reader.h"
+#include "simulation/json/node.h"
 #include "simulation/json/readers.h"
 
 namespace orvik::simulation {

@@ -2,7 +2,7 @@
 
 #include "simulation/drives/ata/identify_data.h"
 #include "simulation/drives/scsi/scsi_drive.h"
-#include "simulation/json/object_reader.h"
+#include "simulation/json/node.h"
 #include "simulation/json/readers.h"
 
 namespace orvik::simulation {

@@ -2,7 +2,7 @@
 
 #include "simulation/csmi/csmi_controller.h"
 #include "simulation/faults/fault_book.h"
-#include "simulation/json/object_reader.h"
+#include "simulation/json/node.h"
 #include "simulation/json/readers.h"
 #include "simulation/physical/physical_drive.h"
 #include "simulation/storelib/storelib.h"

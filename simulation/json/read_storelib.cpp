@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <set>
 
-#include "simulation/json/object_reader.h"
+#include "simulation/json/node.h"
 #include "simulation/json/readers.h"
 #include "simulation/storelib/storelib_layout.h"
 

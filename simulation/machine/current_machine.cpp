@@ -7,7 +7,7 @@
 #include <utility>
 #include <variant>
 
-#include "simulation/json/load_machine.h"
+#include "simulation/machine/load_machine.h"
 
 namespace orvik::simulation {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "simulation/csmi/csmi_layout.h"
-#include "simulation/faults/distort.h"
-#include "simulation/text/fold_case.h"
+#include "simulation/faults/fault.h"
+#include "simulation/identifiers.h"
 
 namespace orvik::simulation {
 

@@ -11,17 +11,34 @@
 #include <vector>
 
 #include "simulation/adapters/adapter.h"
-#include "simulation/clock/clock.h"
+#include "simulation/clock.h"
 #include "simulation/desktop/desktop.h"
+#include "simulation/drives/base/drive_descriptions.h"
+#include "simulation/faults/fault.h"
 #include "simulation/faults/fault_book.h"
-#include "simulation/ledger/ledger.h"
-#include "simulation/machine/io_device.h"
-#include "simulation/machine/machine_description.h"
+#include "simulation/io_device.h"
+#include "simulation/machine/ledger.h"
+#include "simulation/machine/registry.h"
 #include "simulation/physical/physical_drive.h"
-#include "simulation/registry/registry.h"
 #include "simulation/storelib/storelib.h"
+#include "simulation/storelib/storelib_description.h"
 
 namespace orvik::simulation {
+
+/// Everything that a machine is made from; the adapters' registry values need not be repeated in `registry`.
+struct MachineDescription {
+  std::string name{};
+  /// Machine time per real time.
+  double speed = 1;
+  std::vector<AdapterDescription> adapters{};
+  /// `\\.\PhysicalDrive0` and those that follow it.
+  std::vector<PhysicalDriveDescription> physicalDrives{};
+  /// The controllers behind the vendor's library.
+  StorelibDescription storelib{};
+  DesktopDescription desktop{};
+  std::vector<RegistryValue> registry{};
+  std::vector<FaultRule> faults{};
+};
 
 /// May be used from several threads.
 class Machine {

@@ -5,9 +5,8 @@
 #include <optional>
 #include <variant>
 
-#include "simulation/bytes/bytes.h"
-#include "simulation/machine/io_errors.h"
-#include "simulation/physical/pass_through_requests.h"
+#include "simulation/bytes.h"
+#include "simulation/io_device.h"
 
 namespace orvik::simulation {
 

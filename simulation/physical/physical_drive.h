@@ -2,13 +2,16 @@
 
 // A drive that the system itself sees: the device behind `\\.\PhysicalDriveN`.
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <span>
 #include <string_view>
 
+#include "simulation/drives/ata/ata_drive.h"
 #include "simulation/drives/drive.h"
-#include "simulation/machine/io_device.h"
+#include "simulation/drives/scsi/scsi_drive.h"
+#include "simulation/io_device.h"
 
 namespace orvik::simulation {
 
@@ -44,5 +47,12 @@ class PhysicalDrive : public IoDevice {
   Drive drive_;
   bool accessDenied_;
 };
+
+// The pass-through requests of Windows, as its disk and port drivers check and answer them. `buffer` is the system
+// buffer of a METHOD_BUFFERED request: it holds `inputSize` bytes of request and takes up to `outputSize` of answer.
+IoResult AnswerAtaPassThrough(AtaDrive& drive, std::span<std::uint8_t> buffer, std::size_t inputSize,
+                              std::size_t outputSize);
+IoResult AnswerScsiPassThrough(ScsiDrive& drive, std::span<std::uint8_t> buffer, std::size_t inputSize,
+                               std::size_t outputSize);
 
 }  // namespace orvik::simulation

@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "simulation/bytes/bytes.h"
-#include "simulation/machine/io_errors.h"
-#include "simulation/physical/pass_through_requests.h"
+#include "simulation/bytes.h"
+#include "simulation/io_device.h"
+#include "simulation/physical/physical_drive.h"
 
 namespace orvik::simulation {
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <optional>
 
-#include "simulation/clock/clock.h"
+#include "simulation/clock.h"
 #include "simulation/storelib/storelib_description.h"
 
 namespace orvik::simulation {

@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-#include "simulation/drives/ata/register_fis.h"
+#include "simulation/drives/ata/ata_registers.h"
 
 namespace orvik::simulation {
 

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "simulation/bytes/bytes.h"
+#include "simulation/bytes.h"
 
 namespace orvik::simulation {
 

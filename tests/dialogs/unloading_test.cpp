@@ -10,8 +10,8 @@
 
 #include <windows.h>
 
-#include "simulation/json/load_machine.h"
 #include "simulation/machine/current_machine.h"
+#include "simulation/machine/load_machine.h"
 #include "tests/contract/module_slots.h"
 #include "tests/dialogs/gui_events.h"
 

@@ -9,9 +9,8 @@
 #include <set>
 #include <string>
 
-#include "simulation/json/load_machine.h"
-#include "simulation/json/readers.h"
-#include "simulation/text/fold_case.h"
+#include "simulation/identifiers.h"
+#include "simulation/machine/load_machine.h"
 
 namespace orvik::simulation {
 namespace {

@@ -4,8 +4,7 @@
 #include <array>
 #include <utility>
 
-#include "simulation/drives/ata/ata_completion.h"
-#include "simulation/drives/ata/smart_commands.h"
+#include "simulation/drives/ata/ata_registers.h"
 
 namespace orvik::simulation {
 

@@ -10,12 +10,11 @@
 #include <span>
 #include <vector>
 
-#include "simulation/clock/clock.h"
+#include "simulation/clock.h"
 #include "simulation/drives/ata/identify_data.h"
-#include "simulation/drives/data_direction.h"
-#include "simulation/drives/drive_descriptions.h"
-#include "simulation/drives/sector_store.h"
-#include "simulation/drives/self_tests.h"
+#include "simulation/drives/base/drive_descriptions.h"
+#include "simulation/drives/base/sector_store.h"
+#include "simulation/drives/base/self_tests.h"
 
 namespace orvik::simulation {
 

@@ -1,7 +1,7 @@
 // Reading and writing the sectors of an ATA drive, by 28-bit and 48-bit addresses.
 
-#include "simulation/drives/ata/ata_completion.h"
 #include "simulation/drives/ata/ata_drive.h"
+#include "simulation/drives/ata/ata_registers.h"
 
 namespace orvik::simulation {
 

@@ -4,11 +4,10 @@
 #include <array>
 #include <optional>
 
-#include "simulation/drives/ata/ata_completion.h"
 #include "simulation/drives/ata/ata_drive.h"
-#include "simulation/drives/ata/smart_commands.h"
+#include "simulation/drives/ata/ata_registers.h"
 #include "simulation/drives/ata/smart_data.h"
-#include "simulation/drives/label_log.h"
+#include "simulation/drives/base/drive_descriptions.h"
 
 namespace orvik::simulation {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "simulation/bytes/bytes.h"
+#include "simulation/bytes.h"
 
 namespace orvik::simulation {
 

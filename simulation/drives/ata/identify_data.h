@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "simulation/drives/drive_descriptions.h"
+#include "simulation/drives/base/drive_descriptions.h"
 
 namespace orvik::simulation {
 

@@ -2,7 +2,7 @@
 
 #include <numeric>
 
-#include "simulation/bytes/bytes.h"
+#include "simulation/bytes.h"
 #include "simulation/drives/ata/smart_data.h"
 
 namespace orvik::simulation {

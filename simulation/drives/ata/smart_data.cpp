@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "simulation/bytes/bytes.h"
+#include "simulation/bytes.h"
 
 namespace orvik::simulation {
 

@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-#include "simulation/drives/self_tests.h"
+#include "simulation/drives/base/self_tests.h"
 
 namespace orvik::simulation {
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "simulation/drives/drive_descriptions.h"
+#include "simulation/drives/base/drive_descriptions.h"
 
 namespace orvik::simulation {
 

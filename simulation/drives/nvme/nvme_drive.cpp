@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "simulation/drives/label_log.h"
+#include "simulation/drives/base/drive_descriptions.h"
 #include "simulation/drives/nvme/nvme_data.h"
 
 namespace orvik::simulation {

@@ -11,9 +11,9 @@
 #include <span>
 #include <vector>
 
-#include "simulation/clock/clock.h"
-#include "simulation/drives/drive_descriptions.h"
-#include "simulation/drives/sector_store.h"
+#include "simulation/clock.h"
+#include "simulation/drives/base/drive_descriptions.h"
+#include "simulation/drives/base/sector_store.h"
 
 namespace orvik::simulation {
 

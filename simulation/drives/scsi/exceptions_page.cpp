@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "simulation/bytes/bytes.h"
+#include "simulation/bytes.h"
 
 namespace orvik::simulation {
 

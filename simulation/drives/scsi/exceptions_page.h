@@ -7,7 +7,7 @@
 #include <optional>
 #include <span>
 
-#include "simulation/drives/drive_descriptions.h"
+#include "simulation/drives/base/drive_descriptions.h"
 
 namespace orvik::simulation {
 

@@ -1,7 +1,6 @@
 // Self-tests of a SCSI drive, and the sense data that it has without an error.
 
 #include "simulation/drives/scsi/scsi_drive.h"
-#include "simulation/drives/scsi/scsi_self_tests.h"
 
 namespace orvik::simulation {
 

@@ -10,14 +10,13 @@
 #include <span>
 #include <vector>
 
-#include "simulation/bytes/bytes.h"
-#include "simulation/clock/clock.h"
-#include "simulation/drives/data_direction.h"
-#include "simulation/drives/drive_descriptions.h"
+#include "simulation/bytes.h"
+#include "simulation/clock.h"
+#include "simulation/drives/base/drive_descriptions.h"
+#include "simulation/drives/base/sector_store.h"
+#include "simulation/drives/base/self_tests.h"
 #include "simulation/drives/scsi/exceptions_page.h"
 #include "simulation/drives/scsi/sense_data.h"
-#include "simulation/drives/sector_store.h"
-#include "simulation/drives/self_tests.h"
 
 namespace orvik::simulation {
 
@@ -99,5 +98,10 @@ void DescribeByInquiry(SasDriveDescription& drive);
 
 /// Hands `reply` over, or as much of it as the command and the host take.
 ScsiCompletion Deliver(std::span<const std::uint8_t> reply, std::size_t allocation, std::span<std::uint8_t> data);
+
+/// The code by which SEND DIAGNOSTIC and the log know a background test; there is no conveyance test.
+constexpr std::uint8_t ScsiSelfTestCode(SelfTestKind kind) {
+  return kind == SelfTestKind::Short ? 1 : 2;
+}
 
 }  // namespace orvik::simulation

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "simulation/drives/scsi/scsi_drive.h"
-#include "simulation/drives/scsi/scsi_self_tests.h"
 
 namespace orvik::simulation {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <limits>
 
-#include "simulation/bytes/bytes.h"
+#include "simulation/bytes.h"
 
 namespace orvik::simulation {
 
