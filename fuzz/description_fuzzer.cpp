@@ -1,6 +1,6 @@
 // Machine descriptions that may be anything; a machine that comes of one is scanned.
 
-#include <QJsonDocument>
+#include <string>
 
 #include "fuzz/host.h"
 #include "fuzz/input.h"
@@ -27,18 +27,14 @@ extern "C" int LLVMFuzzerInitialize(int* /*count*/, char*** /*arguments*/) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace orvik;
   fuzz::Input input(data, size);
-  QByteArray text;
-  for (const std::uint8_t byte : input.Bytes(size)) text.append(static_cast<char>(byte));
-  const QJsonDocument document = QJsonDocument::fromJson(text);
-  if (!document.isObject()) return 0;
-
+  const auto bytes = input.Bytes(size);
   simulation::Complaint complaint("input.json");
-  const auto description = simulation::ReadMachine(simulation::Node(QJsonValue(document.object()), "", complaint));
-  if (complaint.Made()) {
+  const auto description = simulation::ParseMachine(std::string(bytes.begin(), bytes.end()), complaint);
+  if (!description) {
     fuzz::Demand(!complaint.Text().empty() && complaint.Text().find('\n') == std::string::npos);
     return 0;
   }
-  const auto machine = std::make_shared<simulation::Machine>(description);
+  const auto machine = std::make_shared<simulation::Machine>(*description);
   simulation::InstallMachine(machine);
   {
     module::raid::DeviceScanner scanner;

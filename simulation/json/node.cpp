@@ -53,7 +53,7 @@ Number HexNumber(std::string_view digits) {
 void Complaint::Add(const std::string& place, const std::string& expected, const std::string& found) {
   if (Made()) return;
   text_ = place;
-  // Names of keys can hold anything too.
+  // Keys may contain control characters too.
   text_.append(": expected ").append(expected).append(", found ").append(OnOneLine(found));
 }
 
@@ -95,7 +95,7 @@ void Node::Read(double& number, double least, double most) const {
   number = given;
 }
 
-// A number that is not whole gives back whatever default it is asked with.
+// `toInteger` returns its default for a number that is not whole.
 std::optional<std::int64_t> Node::Whole(std::int64_t least, std::int64_t most) const {
   if (!Present()) return std::nullopt;
   const std::int64_t number = value_.toInteger(0);
@@ -140,7 +140,7 @@ void Node::ReadFile(std::vector<std::uint8_t>& bytes, std::size_t least, std::si
   if (!file.open(QIODevice::ReadOnly)) {
     return Reject("a readable file", "\"" + name + "\": " + file.errorString().toStdString());
   }
-  // One byte more than allowed tells a file that is too large.
+  // One more byte than allowed reveals a file that is too large.
   const QByteArray content = file.read(static_cast<qint64>(most) + 1);
   const auto size = static_cast<std::size_t>(content.size());
   if (size < least || size > most) {
@@ -166,6 +166,7 @@ std::vector<Node> Node::Elements(std::size_t most) const {
   const QJsonArray list = value_.toArray();
   if (static_cast<std::size_t>(list.size()) > most) {
     Reject("a list of at most " + std::to_string(most) + " elements", std::to_string(list.size()) + " elements");
+    return {};
   }
   std::vector<Node> elements;
   for (qsizetype i = 0; i < list.size(); ++i) {

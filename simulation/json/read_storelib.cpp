@@ -59,14 +59,16 @@ constexpr std::array<Named<std::uint8_t>, 2> kDeviceTypes = {{{"disk", kScsiDisk
 
 constexpr std::size_t kMostDigits = 18;
 
-// The ids that are given away, each to be had once.
+// The ids of one kind, each of which can be used once.
 class Ids {
  public:
   explicit Ids(std::string what) : what_(std::move(what)) {}
 
-  void Claim(const Node& node, std::size_t id) {
-    if (taken_.insert(id).second) return;
-    node.Reject("a " + what_ + " of its own", "the " + what_ + " " + std::to_string(id) + " again");
+  /// False, after a complaint, when the id is taken.
+  bool Claim(const Node& node, std::size_t id) {
+    if (taken_.insert(id).second) return true;
+    node.Reject("a unique " + what_, "the " + what_ + " " + std::to_string(id) + " again");
+    return false;
   }
 
  private:
@@ -74,7 +76,7 @@ class Ids {
   std::set<std::size_t> taken_;
 };
 
-// A serial number counted up by its digits at the end; empty when these are too few.
+// A serial number with its trailing digits counted up; empty when they are too few.
 std::string CountedUp(const std::string& serial, std::size_t by) {
   const std::size_t digits = serial.size() - (serial.find_last_not_of("0123456789") + 1);
   if (digits == 0 || digits > kMostDigits) return {};
@@ -84,7 +86,7 @@ std::string CountedUp(const std::string& serial, std::size_t by) {
   return serial.substr(0, serial.size() - digits) + std::string(digits - number.size(), '0') + number;
 }
 
-// How often an element stands in its list: once unless it says so.
+// How many times an element is repeated in its list.
 std::size_t ReadCount(ObjectReader& object, std::size_t most) {
   std::size_t count = 1;
   object.Optional("count").Read(count, 1, most);
@@ -103,6 +105,7 @@ DriveDescription Copy(const DriveDescription& drive, std::size_t number, const N
   return copy;
 }
 
+// Reads at most one drive more than a controller can list.
 void ReadDrives(const Node& node, Ids& deviceIds, std::vector<StorelibPhysicalDriveDescription>& drives) {
   StorelibPhysicalDriveDescription drive;
   ObjectReader object(node);
@@ -116,9 +119,9 @@ void ReadDrives(const Node& node, Ids& deviceIds, std::vector<StorelibPhysicalDr
   const std::size_t count = ReadCount(object, physical_drive_list::kMost);
   object.End();
   const DriveDescription first = drive.drive;
-  for (std::size_t i = 0; i < count; ++i, ++drive.deviceId) {
+  for (std::size_t i = 0; i < count && drives.size() <= physical_drive_list::kMost; ++i, ++drive.deviceId) {
     drive.drive = Copy(first, i, inner);
-    deviceIds.Claim(id, drive.deviceId);
+    if (!deviceIds.Claim(id, drive.deviceId)) return;
     drives.push_back(drive);
   }
 }
@@ -157,7 +160,7 @@ void CheckMembers(const Node& node, const StorelibLogicalDriveDescription& drive
   }
 }
 
-// The members of one that is repeated follow those of the one before.
+// Each repetition has the members that follow those of the one before.
 void ReadLogicalDrives(const Node& node, Ids& targetIds, StorelibControllerDescription& controller) {
   StorelibLogicalDriveDescription drive;
   ObjectReader object(node);
@@ -174,7 +177,7 @@ void ReadLogicalDrives(const Node& node, Ids& targetIds, StorelibControllerDescr
   const std::size_t count = ReadCount(object, logical_drive_list::kMost - drive.targetId);
   object.End();
   for (std::size_t i = 0; i < count; ++i, ++drive.targetId) {
-    targetIds.Claim(id, drive.targetId);
+    if (!targetIds.Claim(id, drive.targetId)) return;
     CheckMembers(members, drive, controller.drives);
     controller.logicalDrives.push_back(drive);
     for (std::uint16_t& member : drive.members) member = static_cast<std::uint16_t>(member + drive.members.size());
@@ -203,18 +206,15 @@ StorelibBatteryDescription ReadBattery(const Node& node) {
   return battery;
 }
 
-// What is repeated may fill more than the lists of a controller hold.
-void CheckSize(const Node& node, std::size_t size, std::size_t most) {
-  if (size > most) node.Reject("at most " + std::to_string(most) + " of them", std::to_string(size));
-}
-
 void ReadParts(ObjectReader& object, StorelibControllerDescription& controller) {
   Ids deviceIds("device id");
   Ids targetIds("target id");
   Ids enclosureIds("enclosure id");
   const Node drives = object.Optional("drives");
   drives.ForEach([&](const Node& each) { ReadDrives(each, deviceIds, controller.drives); });
-  CheckSize(drives, controller.drives.size(), physical_drive_list::kMost);
+  if (controller.drives.size() > physical_drive_list::kMost) {
+    drives.Reject("at most " + std::to_string(physical_drive_list::kMost) + " drives, repetitions included", "more");
+  }
   object.Optional("logicalDrives").ForEach([&](const Node& each) { ReadLogicalDrives(each, targetIds, controller); });
   object.Optional("enclosures")
       .ForEach([&](const Node& each) { controller.enclosures.push_back(ReadEnclosure(each, enclosureIds)); },
@@ -222,7 +222,7 @@ void ReadParts(ObjectReader& object, StorelibControllerDescription& controller) 
 }
 
 StorelibControllerDescription ReadController(const Node& node, Ids& controllerIds) {
-  // The texts end with a zero inside their fields.
+  // Texts are zero-terminated within their fields.
   constexpr std::size_t kLongestProduct = controller_info::kProduct.size - 1;
   constexpr std::size_t kLongestSerial = controller_info::kSerial.size - 1;
   StorelibControllerDescription controller;

@@ -25,6 +25,13 @@ class MachineDescriptions : public testing::Test {
     return LoadMachine(path);
   }
 
+  // `count` elements of a list.
+  static std::string Repeated(const std::string& element, std::size_t count) {
+    std::string list = element;
+    while (--count != 0) list += "," + element;
+    return list;
+  }
+
   // The error without the file name; empty on success.
   std::string Error(const std::string& text) {
     const auto loaded = Load(text);
@@ -56,6 +63,18 @@ class MachineDescriptions : public testing::Test {
 
 TEST_F(MachineDescriptions, AreRefusedWithPlaceExpectationAndFinding) {
   const std::pair<std::string, std::string> rows[] = {
+      {"", "document: expected an object, found an empty file"},
+      {" \n", "document: expected an object, found an empty file"},
+      {std::string(1048577, ' '), "document: expected at most 1048576 bytes, found more"},
+      {R"({"name": "a", "na\u006de": "b"})", R"(document: expected each key once, found the key "name" again)"},
+      {Csmi(
+           R"("revision": ["{", "\"", []], "drives": [1, {"a": {"b": [2]}}, {"kind": 1, "c": {"kind": 2}, "kind": 3}])"),
+       R"(adapters[1].csmi.drives[2]: expected each key once, found the key "kind" again)"},
+      {Document(R"("physicalDrives": [)" + Repeated("0", 257) + "]"),
+       "physicalDrives: expected a list of at most 256 elements, found 257 elements"},
+      {StorelibDrives(R"({"deviceId": 20, "count": 254,
+                          "drive": {"kind": "SATA", "model": "m", "serial": "S001", "sectors": 1}}])"),
+       "storelib.controllers[0].drives: expected at most 256 drives, repetitions included, found more"},
       {"[]", "document: expected an object, found a list"},
       {"{\"format\": 1,\n \"name\" 3}", "2:10: expected JSON, found \"missing name separator\""},
       {R"({"name": "m"})", "format: expected the number 1, found nothing"},
@@ -75,9 +94,9 @@ TEST_F(MachineDescriptions, AreRefusedWithPlaceExpectationAndFinding) {
       {Document(R"("faults": [{"operation": "DeviceIoControl", "patch": [{"offset": 1, "bytes": "ABC"}]}])"),
        R"(faults[0].patch[0].bytes: expected a text of pairs of hexadecimal digits, found the text "ABC")"},
       {Document(R"("storelib": {"controllers": [{"controllerId": 1, "product": "p"}, {"controllerId": 1}]})"),
-       "storelib.controllers[1].controllerId: expected a controller id of its own, found the controller id 1 again"},
+       "storelib.controllers[1].controllerId: expected a unique controller id, found the controller id 1 again"},
       {StorelibDrives(R"({"deviceId": 10, "drive": {"kind": "SATA", "model": "m", "serial": "", "sectors": 1}}])"),
-       "storelib.controllers[0].drives[1].deviceId: expected a device id of its own, found the device id 10 again"},
+       "storelib.controllers[0].drives[1].deviceId: expected a unique device id, found the device id 10 again"},
       {StorelibDrives(R"({"deviceId": 1, "count": 2,
                           "drive": {"kind": "SATA", "model": "m", "serial": "S9", "sectors": 1}}])"),
        "storelib.controllers[0].drives[1].drive: expected a serial number that can be counted up, found an object"},
@@ -154,8 +173,9 @@ TEST_F(MachineDescriptions, CarryStorelibControllersIntoTheMachine) {
                          "check": {"seconds": 10, "runningAt": 5, "endsConsistent": false, "startStatus": 24}}],
       "enclosures": [{"enclosureId": 5, "faultByte": 6}])");
   Complaint complaint("");
-  const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
-  const StorelibControllerDescription read = ReadMachine(Node(object, "", complaint)).storelib.controllers.at(0);
+  const auto parsed = ParseMachine(text, complaint);
+  ASSERT_TRUE(parsed) << complaint.Text();
+  const StorelibControllerDescription& read = parsed->storelib.controllers.at(0);
   EXPECT_EQ(std::tie(read.serial, read.interfaces, read.raidLevels, read.batterySupported, read.battery.type),
             std::tuple("s", 0x11, 0x82, false, 3));
   EXPECT_EQ(std::tie(read.battery.packMissing, read.battery.lowVoltage, read.battery.temperatureHigh),
@@ -173,7 +193,7 @@ TEST_F(MachineDescriptions, CarryStorelibControllersIntoTheMachine) {
   EXPECT_EQ(read.enclosures.at(0).faultByte, 6);
 }
 
-// The path of an interface tells the same device as the instance id, and no two are the same.
+// An interface path names the same device as the instance id, and no two are equal.
 TEST_F(MachineDescriptions, ComeAsSamples) {
   for (const auto& entry : std::filesystem::directory_iterator(ORVIK_MACHINES_DIR)) {
     const std::string file = entry.path().string();
