@@ -1,6 +1,6 @@
 #pragma once
 
-// The machine's time. It may run faster than a wall clock, so that a check of hours passes in seconds.
+// The machine's time. It may run faster than real time, so that a check of hours takes seconds.
 
 #include <atomic>
 #include <chrono>
@@ -8,14 +8,14 @@
 
 namespace orvik::simulation {
 
-/// Monotonic; starts at 0 with the machine. May be used from several threads.
+/// Monotonic; starts at 0 with the machine. Thread-safe.
 class Clock {
  public:
   /// `speed`: machine milliseconds per millisecond of real time.
   explicit Clock(double speed) : speed_(speed) {}
 
   std::uint64_t Milliseconds() const;
-  /// Lets `milliseconds` of machine time pass at once.
+  /// Advances the clock at once.
   void Advance(std::uint64_t milliseconds) { advanced_ += milliseconds; }
   /// Returns when `milliseconds` of machine time have passed.
   void Wait(std::uint64_t milliseconds) const;

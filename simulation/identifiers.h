@@ -1,6 +1,6 @@
 #pragma once
 
-// How the machine names things: GUIDs, and names that are compared without regard to case.
+// GUIDs, and the comparison of names without regard to case.
 
 #include <algorithm>
 #include <array>
@@ -20,7 +20,7 @@ struct Guid {
   friend bool operator==(const Guid&, const Guid&) = default;
 };
 
-/// Reads "{4d36e97b-e325-11ce-bfc1-08002be10318}", letters of either case; nothing when `text` is none.
+/// Reads "{4d36e97b-e325-11ce-bfc1-08002be10318}", in any case; nothing for other texts.
 std::optional<Guid> ParseGuid(std::string_view text);
 
 /// Setup class of SCSI and RAID controllers.
@@ -29,7 +29,7 @@ inline constexpr Guid kScsiAdapterClass{0x4D36E97B, 0xE325, 0x11CE, {0xBF, 0xC1,
 inline constexpr Guid kStoragePortInterface{
     0x2ACCFE60, 0xC130, 0x11D2, {0xB0, 0x82, 0x00, 0xA0, 0xC9, 0x1E, 0xFB, 0x8B}};
 
-/// `text` with ASCII capitals turned small: what names, keys and paths of the machine are compared by.
+/// `text` with ASCII letters in lower case: the form in which names, keys and paths of the machine are compared.
 inline std::string FoldCase(std::string_view text) {
   std::string folded(text);
   std::ranges::transform(folded, folded.begin(),

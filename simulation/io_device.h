@@ -15,7 +15,7 @@ struct IoResult {
   std::size_t returned{};
 };
 
-/// May be used from several threads.
+/// Thread-safe.
 class IoDevice {
  public:
   IoDevice() = default;

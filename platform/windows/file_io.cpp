@@ -1,5 +1,5 @@
-// Files of the machine: opening device interfaces by path and sending I/O control requests to them; and the one mutex
-// that it may have, because all handles are closed in one place.
+// Files of the machine: opens device interfaces by path and sends I/O control requests to them. Also opens its only
+// mutex, because CloseHandle closes both.
 
 #include <windows.h>
 
@@ -18,7 +18,7 @@ namespace simulation = orvik::simulation;
 
 namespace {
 
-// An open file keeps its machine, also when another one has been installed since. A mutex is one without a device.
+// An open file keeps its machine even after another one has been installed. A mutex has no device.
 struct File {
   std::shared_ptr<simulation::Machine> machine;
   std::shared_ptr<simulation::IoDevice> device;
@@ -72,8 +72,8 @@ BOOL WINAPI CloseHandle(HANDLE handle) {
   return TRUE;
 }
 
-// As METHOD_BUFFERED has it: one system buffer carries the request in and the answer out, so that only what the
-// device returns reaches the caller's output buffer.
+// METHOD_BUFFERED: one system buffer carries the request in and the reply out, so that only returned bytes reach the
+// caller's output buffer.
 BOOL WINAPI DeviceIoControl(HANDLE device, DWORD code, LPVOID input, DWORD inputSize, LPVOID output, DWORD outputSize,
                             LPDWORD returned, LPOVERLAPPED /*overlapped*/) {
   const auto file = Files().Find(device);

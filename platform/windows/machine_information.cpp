@@ -1,4 +1,4 @@
-// What the machine itself can be asked: its registry and its time.
+// The registry and the clock of the machine.
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-// Where the platform is Windows itself: what the system does best is left to it, and the machine's books are kept.
+// On Windows itself: calls pass through to the system after the machine has counted them.
 
 #include <windows.h>
 #include <winternl.h>
@@ -20,7 +20,7 @@ extern "C" NTSTATUS NTAPI LdrGetProcedureAddress(PVOID library, PANSI_STRING nam
 
 namespace {
 
-// The system's own search for a function. Its name leads back to the one below, so the loader itself is asked for it.
+// The system's own GetProcAddress, from the loader: the name itself resolves to the function below.
 decltype(&GetProcAddress) SystemSearch() {
   static const auto search = [] {
     ANSI_STRING name{};
@@ -38,7 +38,7 @@ Function* SystemFunction(const char* name, Function* /*type*/, const wchar_t* li
   return std::bit_cast<Function*>(SystemSearch()(GetModuleHandleW(library), name));
 }
 
-// The stand-in has a name of its own here, so that nobody but the machine's programs gets it for the system's.
+// The stand-in has another name here, so that other programs cannot load it in place of the system's.
 windows::WideString DpiLibraryPath() {
   static const char kInThisLibrary = 0;
   HMODULE self = nullptr;
@@ -52,7 +52,7 @@ windows::WideString DpiLibraryPath() {
 
 }  // namespace
 
-// Every program that meets this library before the system's closes all of its handles here.
+// Programs that link this library before the system's close all of their handles here.
 bool windows::CloseSystemHandle(HANDLE handle) {
   static auto* const system = SystemFunction("CloseHandle", &CloseHandle);
   return system(handle) != FALSE;

@@ -43,7 +43,7 @@ std::shared_ptr<windows::DeviceInfoSet> Enter(HDEVINFO handle, std::string_view 
   return set;
 }
 
-// The adapter that `device` stands for; null with the last error set when it stands for none of the set.
+// The adapter of `device`; null, with the last error set, when the set does not have it.
 const simulation::AdapterDescription* Resolve(const windows::DeviceInfoSet& set, const SP_DEVINFO_DATA* device) {
   const bool valid = device != nullptr && device->cbSize == sizeof(SP_DEVINFO_DATA);
   const auto* adapter = valid ? set.Find(device->DevInst) : nullptr;

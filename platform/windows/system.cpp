@@ -1,4 +1,4 @@
-// What the system itself does where there is no Windows beneath the machine: the last error and text conversion.
+// What the system itself does on Windows: the last error and text conversion.
 
 #include "platform/windows/system.h"
 
@@ -22,7 +22,7 @@ void WINAPI SetLastError(DWORD code) {
   lastError = code;
 }
 
-// The handles and the memory are all the machine's.
+// Without Windows beneath the machine, it owns every handle and all memory.
 bool windows::CloseSystemHandle(HANDLE /*handle*/) {
   return false;
 }

@@ -17,17 +17,15 @@ inline BOOL Fail(DWORD error) {
   return FALSE;
 }
 
-/// Counts a call of `function`, which may take its time, and tells with which error the machine wants it to fail, if
-/// so.
+/// Counts a call of `function`, applies its delay, and returns the error with which it must fail, if any.
 inline std::optional<DWORD> InjectedError(simulation::Machine& machine, std::string_view function) {
   return machine.OnCall({function}).error;
 }
 
-/// Closes a handle that is not the machine's but the system's own. False where there is no such handle, or no such
-/// system.
+/// Closes a handle of the system beneath the machine. False without such a handle or such a system.
 bool CloseSystemHandle(HANDLE handle);
 
-/// Releases memory that the system itself handed out. False where there is no such system.
+/// Releases memory that the system beneath the machine allocated. False without such a system.
 bool FreeSystemMemory(void* memory);
 
 }  // namespace orvik::platform::windows

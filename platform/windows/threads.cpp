@@ -31,7 +31,7 @@ cpu_set_t ToSet(DWORD_PTR mask) {
   return processors;
 }
 
-// What the process was given when it started to bind threads.
+// The process's processors at the first call.
 DWORD_PTR ProcessMask() {
   static const DWORD_PTR mask = [] {
     cpu_set_t processors;

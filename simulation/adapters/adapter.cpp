@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::uint32_t kIoctlScsiMiniport = 0x0004D008;
 
-// The port driver's own checks of a miniport request. 0 when the miniport may have it.
+// The port driver's own checks of a miniport request: a Windows error code, 0 for a valid one.
 std::uint32_t CheckHeader(std::span<const std::uint8_t> buffer, std::size_t inputSize, std::size_t outputSize) {
   if (inputSize < srb_io_control::kSize) return kErrorInvalidParameter;
   if (Get(buffer, srb_io_control::kHeaderLength) != srb_io_control::kSize) return kErrorRevisionMismatch;

@@ -17,14 +17,14 @@
 
 namespace orvik::simulation {
 
-/// May be used from several threads.
+/// Thread-safe.
 class CsmiController {
  public:
   /// Throws std::out_of_range when a phy or RAID member names a drive that is not in the list.
   explicit CsmiController(const CsmiControllerDescription& description,
                           const std::shared_ptr<const Clock>& clock = std::make_shared<const Clock>(1));
 
-  /// The name of the packet with this header ("CC_CSMI_SAS_GET_PHY_INFO"); empty when it is none of this interface.
+  /// The name of the packet with this header ("CC_CSMI_SAS_GET_PHY_INFO"); empty for other packets.
   static std::string_view PacketName(std::span<const std::uint8_t> packet);
   /// True when a packet has this name.
   static bool HasPacket(std::string_view name);
@@ -40,7 +40,7 @@ class CsmiController {
   const std::vector<Drive>& Drives() const { return drives_; }
 
  private:
-  // How a packet is recognised, how small it may be and who answers it.
+  // A packet's control code, its least size and its handler.
   struct Packet {
     std::string_view name;
     std::string_view signature;

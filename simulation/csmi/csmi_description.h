@@ -51,7 +51,7 @@ enum class CsmiRaidStatus : std::uint8_t {
 
 enum class CsmiDriveStatus : std::uint8_t { Ok = 0, Rebuilding = 1, Failed = 2, Degraded = 3 };
 
-/// bDeviceType of what is attached to a phy.
+/// bDeviceType of the device attached to a phy.
 enum class SasDeviceType : std::uint8_t {
   Nothing = 0x00,
   EndDevice = 0x10,
@@ -59,10 +59,10 @@ enum class SasDeviceType : std::uint8_t {
   FanoutExpander = 0x30
 };
 
-/// bTargetPortProtocol of what is attached to a phy.
+/// bTargetPortProtocol of the device attached to a phy.
 enum class SasProtocol : std::uint8_t { Nothing = 0x00, Sata = 0x01, Smp = 0x02, Stp = 0x04, Ssp = 0x08 };
 
-/// What is attached is taken from the drive unless it is given here.
+/// The attached device is described by the drive unless given here.
 struct CsmiPhyDescription {
   /// Number of the drive in the controller's list; without it no drive is attached.
   std::optional<std::size_t> drive{};

@@ -11,7 +11,7 @@ namespace orvik::simulation {
 
 namespace {
 
-// Chipset controllers report 0 for an exchange that has ended, and tell the outcome by the SCSI status alone.
+// Chipset controllers report kSspEnded for every exchange that ended; only the SCSI status shows the outcome.
 constexpr std::uint8_t kSspEnded = 0;
 constexpr std::uint8_t kSspFatalError = 3;
 
@@ -21,8 +21,8 @@ constexpr std::uint8_t kSenseData = 2;
 constexpr std::uint32_t kLinkUpAt6Gbit = 0x133;
 constexpr std::uint32_t kNoPowerTransitions = 0x300;
 
-// The part of the packet that the drive reads or fills. Nothing moves when the request has the data go another way
-// than the command does.
+// The part of the packet that the drive reads or fills. Empty when the request and the command disagree on the
+// direction.
 std::span<std::uint8_t> DataArea(std::span<std::uint8_t> packet, Block area, std::uint32_t flags,
                                  DataDirection direction) {
   const std::uint32_t wanted = direction == DataDirection::In ? pass_through::kRead : pass_through::kWrite;

@@ -30,7 +30,7 @@ Attachment AttachmentOf(const std::shared_ptr<NvmeDrive>& /*drive*/) {
   return {SasProtocol::Nothing, {}};
 }
 
-// One phy for every drive that can be attached to one.
+// One phy for each SATA and SAS drive.
 std::vector<CsmiPhyDescription> DefaultPhys(const std::vector<Drive>& drives) {
   std::vector<CsmiPhyDescription> phys;
   for (std::size_t i = 0; i < drives.size(); ++i) {

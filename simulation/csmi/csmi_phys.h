@@ -1,6 +1,6 @@
 #pragma once
 
-// The phys of a CSMI controller: what each is attached to, and the way to a drive behind one.
+// The phys of a CSMI controller: the attached devices, and connections to the drives behind them.
 
 #include <cstddef>
 #include <cstdint>
@@ -13,7 +13,7 @@
 
 namespace orvik::simulation {
 
-/// The drive at the end of a connection, or the ReturnCode and connection status that tell why there is none.
+/// The drive at the end of a connection, or the ReturnCode and connection status that explain why there is none.
 struct CsmiConnection {
   const Drive* drive = nullptr;
   std::uint32_t returnCode = 0;
@@ -27,7 +27,7 @@ class CsmiPhys {
   std::size_t Count() const { return phys_.size(); }
   /// Fills the 64 bytes of phy number `number`.
   void FillEntity(std::size_t number, std::span<std::uint8_t> entity) const;
-  /// The SAS address of drive number `drive`; 0 when it is behind no phy.
+  /// The SAS address of drive number `drive`; 0 without a phy.
   std::uint64_t AddressOf(std::size_t drive) const;
   /// Opens a connection to the destination that a pass-through request names.
   CsmiConnection Connect(std::span<const std::uint8_t> request) const;

@@ -48,7 +48,7 @@ std::uint32_t CsmiController::GetRaidInfo(std::span<std::uint8_t> packet) {
   return kCsmiSuccess;
 }
 
-// The drive count is the set's own; only the drives that fit into the packet are listed.
+// The count includes all drives of the set, the list only those that fit into the packet.
 std::uint32_t CsmiController::GetRaidConfig(std::span<std::uint8_t> packet) {
   const std::uint32_t index = Get(packet, raid_config::kRaidSetIndex);
   if (index >= description_.raidSets.size()) return kCsmiRaidSetOutOfRange;

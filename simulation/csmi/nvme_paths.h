@@ -18,13 +18,13 @@ namespace orvik::simulation {
 /// The name under which fault rules know the request.
 inline constexpr std::string_view kNvmePassThroughName = "NVME_PASS_THROUGH";
 
-/// The path id of the drive that comes after `before` in a controller's list; nothing when it is no NVMe drive or
-/// there are no more path ids.
+/// The path id of the drive after `before` in a controller's list; nothing when it is not an NVMe drive or no path
+/// ids are left.
 std::optional<std::uint8_t> NvmePathId(const DriveDescription& drive, std::span<const DriveDescription> before);
 
 class NvmePaths {
  public:
-  /// Of several drives with one path id, the first has it.
+  /// The first of several drives with the same path id answers.
   NvmePaths(std::span<const DriveDescription> descriptions, const std::vector<Drive>& drives);
 
   /// True when a packet has the request's signature and control code.

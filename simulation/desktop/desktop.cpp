@@ -29,7 +29,7 @@ constexpr Palette kHighContrast = {0x000000, 0x000000, 0x000000, 0x000000, 0x000
                                    0xFFFFFF, 0x3FF23F, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF,
                                    0x000000, 0x000000, 0xFFFF00, 0x000000, 0x000000, 0x1AEBFF, 0x000000};
 
-// A name of this account for a folder that no other account's programs may have made.
+// The account's name, which keeps its folder apart from those of other accounts.
 std::string AccountName() {
   for (const char* variable : {"USER", "USERNAME", "LOGNAME"}) {
     const char* value = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe): nobody here changes the environment
@@ -40,7 +40,7 @@ std::string AccountName() {
 
 constexpr std::uint32_t kThemeChanged = 0x031A;  // WM_THEMECHANGED
 
-// A message as the system hands it to a window, with its natural alignment.
+// A window message with the system's layout.
 struct WindowMessage {
   std::uint64_t window{};
   std::uint32_t message{};

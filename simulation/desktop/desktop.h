@@ -10,7 +10,7 @@
 
 namespace orvik::simulation {
 
-/// The user's session on the machine: how it looks, who helps the user to read it, and where it keeps its files.
+/// The user's session on the machine: its look, screen readers and folders.
 struct DesktopDescription {
   bool highContrast = false;
   /// System colours (0xRRGGBB) by their index, in place of those of the normal or the high-contrast palette.
@@ -21,7 +21,7 @@ struct DesktopDescription {
   bool narrator = false;
   /// Of the only monitor.
   std::uint32_t dpi = 96;
-  /// Whether the system has the library that tells the monitor's DPI.
+  /// Whether the system has the library that reports the monitor's DPI.
   bool dpiLibrary = true;
   /// Folder of the data of all users, in this platform's own notation; empty: one under the temporary folder.
   std::string programData{};
@@ -30,7 +30,7 @@ struct DesktopDescription {
   friend bool operator==(const DesktopDescription&, const DesktopDescription&) = default;
 };
 
-/// A key that a program pressed or released in the user's place, as the fields of its request.
+/// A key press or release that a program synthesised.
 struct SyntheticKey {
   std::uint16_t virtualKey{};
   std::uint16_t scanCode{};
@@ -39,13 +39,13 @@ struct SyntheticKey {
   friend bool operator==(const SyntheticKey&, const SyntheticKey&) = default;
 };
 
-/// May be used from several threads.
+/// Thread-safe.
 class Desktop {
  public:
   explicit Desktop(DesktopDescription description) : state_(std::move(description)) {}
 
   DesktopDescription State() const;
-  /// Changes the session. When it looks different afterwards, the running application is told as by `AnnounceTheme`.
+  /// Changes the session and calls `AnnounceTheme` when its look has changed.
   void Change(DesktopDescription state);
   /// Sends WM_THEMECHANGED to the native event filters of this process's Qt application, on its own thread. Nothing
   /// happens in a process without one.

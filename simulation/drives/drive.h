@@ -17,10 +17,10 @@ namespace orvik::simulation {
 
 using Drive = std::variant<std::shared_ptr<AtaDrive>, std::shared_ptr<ScsiDrive>, std::shared_ptr<NvmeDrive>>;
 
-/// `clock`: the time by which the drive's self-tests run.
+/// `clock` times the drive's self-tests.
 Drive MakeDrive(const DriveDescription& description, const std::shared_ptr<const Clock>& clock);
 
-/// What a controller notes about a drive when it finds it.
+/// What a controller records about a drive on discovery.
 struct DriveIdentity {
   std::string model{};
   std::string firmware{};

@@ -1,6 +1,6 @@
 #pragma once
 
-// What can be made to go wrong with a call into the machine.
+// The faults that can be injected into calls of the machine.
 
 #include <cstddef>
 #include <cstdint>
@@ -11,16 +11,16 @@
 
 namespace orvik::simulation {
 
-/// Bytes that take the place of those at `offset` of a packet that comes back (its header included).
+/// Bytes that overwrite a reply at `offset`, counted from the start of its header.
 struct BytePatch {
   std::size_t offset{};
   std::vector<std::uint8_t> bytes{};
 };
 
-/// What happens to one call. Everything but `delayMilliseconds` and `error` is for packets only; of a command to the
+/// The effects on one call. Everything but `delayMilliseconds` and `error` is for packets only; of a command to the
 /// vendor's library they change the data block, and `error` and `returnCode` are the status that it answers.
 struct FaultEffects {
-  /// The call answers this much later, by the machine's clock.
+  /// The call returns this much later by the machine's clock.
   std::optional<std::uint32_t> delayMilliseconds{};
   /// The call fails with this Windows error code and changes nothing.
   std::optional<std::uint32_t> error{};
@@ -34,16 +34,16 @@ struct FaultEffects {
 };
 
 /// `operation` is a Windows function ("DeviceIoControl"), a packet ("CC_CSMI_SAS_GET_PHY_INFO", "STORELIB_INIT") or
-/// "*" for every call outside that can fail. `call` is the number of the call that is hit, counted from 1 since the
-/// rule was added; without it every call is.
+/// "*" for every outside call that can fail. `call` is the number of the affected call, counted from 1 since the rule
+/// was added; without it, every call.
 struct FaultRule {
   std::string operation{};
   std::optional<std::uint64_t> call{};
   FaultEffects effects{};
 };
 
-/// Damages `reply`, the answer to `request`, as `effects` say: first garbles what follows the first `headerSize`
-/// bytes, then patches, then truncates. `returned` is the count of bytes that come back.
+/// Applies `effects` to `reply`, the answer to `request`: first garbles all but the first `headerSize` bytes, then
+/// patches, then truncates. `returned` is the count of bytes that come back.
 void Distort(const FaultEffects& effects, std::size_t headerSize, std::span<const std::uint8_t> request,
              std::span<std::uint8_t> reply, std::size_t& returned);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The rules by which calls into the machine go wrong, and the count of the calls.
+// The rules that inject faults into calls of the machine, and the counts of the calls.
 
 #include <cstdint>
 #include <functional>
@@ -19,17 +19,17 @@ namespace orvik::simulation {
 inline constexpr std::string_view kEveryOutsideCall = "*";
 inline constexpr std::uint32_t kDefaultFaultError = 31;  // ERROR_GEN_FAILURE
 
-/// True for the functions that "*" stands for: those of Windows that can fail, and the vendor library's.
+/// True for the functions that "*" covers: those of Windows that can fail, and the vendor library's.
 bool IsOutsideCall(std::string_view operation);
 
-/// Asked about each call, known by all of `names`: what happens to it.
+/// Returns the effects on a call, which is known by each of `names`.
 using FaultSource = std::function<FaultEffects(std::span<const std::string_view> names)>;
 
-/// May be used from several threads.
+/// Thread-safe.
 class FaultBook {
  public:
   void Add(FaultRule rule);
-  /// Asks `source`, one call at a time, for what is to happen beside what the rules say.
+  /// Asks `source`, one call at a time, for effects in addition to those of the rules.
   void AskForEach(FaultSource source);
   /// Fails the n-th outside call from now on, counted from 1.
   void FailCall(std::uint64_t n, std::uint32_t error = kDefaultFaultError);
@@ -37,10 +37,10 @@ class FaultBook {
   void FailEvery(std::string_view operation, std::uint32_t error = kDefaultFaultError);
   void Clear();
 
-  /// Calls of `operation` since the machine was made, those that were failed included.
+  /// Calls of `operation` since the machine was made, failed calls included.
   std::uint64_t CallsMade(std::string_view operation) const;
 
-  /// Counts one call that is known under each of `names` (empty names are ignored) and tells what happens to it.
+  /// Counts one call that is known under each of `names` (empty names are ignored) and returns its effects.
   FaultEffects OnCall(std::initializer_list<std::string_view> names);
 
  private:

@@ -21,7 +21,7 @@
 
 namespace orvik::simulation {
 
-/// The first thing that is wrong with a document.
+/// The first error in a document.
 class Complaint {
  public:
   /// `documentPath`: where the document is, for the files that it names.
@@ -44,7 +44,7 @@ struct Named {
   Value value;
 };
 
-/// A value of the document, or the absence of one: then every reading operation leaves its target as it is.
+/// A value of the document, or a missing one, which leaves every target unchanged.
 class Node {
  public:
   Node(QJsonValue value, std::string place, Complaint& complaint);
@@ -52,7 +52,7 @@ class Node {
   bool Present() const { return !value_.isUndefined(); }
   bool IsList() const { return value_.isArray(); }
   const std::string& Place() const { return place_; }
-  /// Complains that `expected` should be here, and not what is found.
+  /// Complains that `expected` should be here. Without `found`, the value itself is named.
   void Reject(const std::string& expected) const;
   void Reject(const std::string& expected, const std::string& found) const;
 
@@ -125,7 +125,7 @@ class Node {
     for (const Node& element : Elements(most)) read(element);
   }
 
-  /// The value as an object; empty, after a complaint, when it is none.
+  /// The value as an object; empty, after a complaint, when it is not one.
   QJsonObject Object() const;
   Node Member(std::string_view key, const QJsonValue& value) const;
 
@@ -148,12 +148,12 @@ class Node {
   Complaint* complaint_;
 };
 
-/// Reads the members of an object by their keys. What has not been asked for when `End` is called is a complaint.
+/// Reads the members of an object by their keys. `End` complains about members that have not been read.
 class ObjectReader {
  public:
   explicit ObjectReader(const Node& node);
 
-  /// A missing member is a complaint that expects `expected` there.
+  /// Complains that `expected` should be there when the member is missing.
   Node Required(std::string_view key, std::string_view expected);
   Node Optional(std::string_view key);
   void End() const;

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::uint32_t kLastColor = 30;
 constexpr std::uint32_t kMostDpi = 1000;
-// As long as the system lets a name be.
+// The system's own limit.
 constexpr std::size_t kLongestUserName = 256;
 
 void ReadColor(const Node& node, DesktopDescription& desktop) {

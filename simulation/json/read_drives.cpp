@@ -68,7 +68,7 @@ void ReadOpcodes(const Node& node, std::vector<std::uint8_t>& opcodes) {
   });
 }
 
-// What drives of every kind can be told to be like.
+// The keys that drives of every kind have.
 template <typename Drive>
 void ReadCondition(ObjectReader& object, Drive& drive) {
   object.Optional("silent").Read(drive.silent);

@@ -11,7 +11,7 @@ namespace orvik::simulation {
 
 namespace {
 
-// Functions that can be made to fail by name but that "*" leaves alone.
+// Functions that a rule can name but that "*" does not cover.
 constexpr std::array<std::string_view, 1> kByNameOnly = {"SetThreadAffinityMask"};
 
 bool IsStorelibCommand(std::string_view operation) {

@@ -6,12 +6,12 @@
 
 namespace orvik::simulation {
 
-/// The machine that this process runs on. Unless one has been installed, it is the one that the file named by the
-/// environment variable ORVIK_MACHINE describes; without one (or when it cannot be loaded, which is reported on the
-/// standard error stream) an empty machine. May be called from several threads.
+/// The machine of this process: the installed one, else the one described by the file that the environment variable
+/// ORVIK_MACHINE names, else an empty machine. A file that cannot be loaded is reported on the standard error stream.
+/// Thread-safe.
 std::shared_ptr<Machine> CurrentMachine();
 
-/// Replaces the current machine. What has been handed out by the old one stays valid.
+/// Replaces the current machine. Handles of the old one stay valid.
 void InstallMachine(std::shared_ptr<Machine> machine);
 
 }  // namespace orvik::simulation

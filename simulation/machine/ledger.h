@@ -1,6 +1,6 @@
 #pragma once
 
-// What the machine has handed out and not got back, so that a test can ask for zero at the end.
+// Counts what the machine has handed out and not got back, so that tests can check for leaks.
 
 #include <array>
 #include <cstddef>
@@ -13,14 +13,14 @@ namespace orvik::simulation {
 enum class Resource : std::uint8_t { FileHandle, DeviceInformationSet, Library, Buffer };
 inline constexpr std::size_t kResourceKinds = 4;
 
-/// May be used from several threads.
+/// Thread-safe.
 class Ledger {
  public:
   void Take(Resource kind);
   void Return(Resource kind);
-  /// Something was released that is not handed out: closed twice, or never opened.
+  /// Counts a release of something not handed out: closed twice or never opened.
   void InvalidRelease(Resource kind);
-  /// A thread asked to run on the processors of `mask`.
+  /// Records a thread's request to run on the processors of `mask`.
   void RecordAffinityRequest(std::uint64_t mask);
 
   std::size_t Taken(Resource kind) const;

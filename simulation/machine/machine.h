@@ -25,7 +25,7 @@
 
 namespace orvik::simulation {
 
-/// Everything that a machine is made from; the adapters' registry values need not be repeated in `registry`.
+/// The parts of a machine; `registry` need not repeat the adapters' registry values.
 struct MachineDescription {
   std::string name{};
   /// Machine time per real time.
@@ -40,7 +40,7 @@ struct MachineDescription {
   std::vector<FaultRule> faults{};
 };
 
-/// May be used from several threads.
+/// Thread-safe.
 class Machine {
  public:
   explicit Machine(const MachineDescription& description = {});
@@ -58,7 +58,7 @@ class Machine {
   simulation::Clock& Clock() { return *clock_; }
   simulation::Storelib& Storelib() { return storelib_; }
 
-  /// The device that a file name leads to, letters of either case; null when it leads nowhere.
+  /// The device with this file name, in any case; null when there is none.
   std::shared_ptr<IoDevice> Find(std::string_view fileName) const;
   /// Sends a request to `device` as `IoDevice::Control` does, as one outside call that the fault book may hit.
   IoResult Control(IoDevice& device, std::uint32_t controlCode, std::span<std::uint8_t> buffer, std::size_t inputSize,
@@ -66,8 +66,7 @@ class Machine {
   /// Sends a command to the vendor's library as `Storelib::Execute` does, as one outside call that the fault book may
   /// hit.
   std::uint32_t ProcessLibCommand(std::span<std::uint8_t> packet, std::span<std::uint8_t> data);
-  /// Counts a call from outside under each of `names` and lets the time pass that it is to be late. What else is to
-  /// happen to it is the caller's.
+  /// Counts a call from outside under each of `names` and applies its delay. The caller applies the other effects.
   FaultEffects OnCall(std::initializer_list<std::string_view> names);
 
  private:

@@ -18,7 +18,7 @@ struct RegistryValue {
   std::string text{};
 };
 
-/// Keys and names are compared without regard to case. May be used from several threads.
+/// Keys and names are compared without regard to case. Thread-safe.
 class Registry {
  public:
   void Set(const RegistryValue& value);

@@ -19,7 +19,7 @@ constexpr Block kVendorData{4, 512};
 constexpr std::size_t kSize = 516;
 }  // namespace predict_failure
 
-// What a drive answers when the system asks it whether it is about to fail; nothing when it cannot tell.
+// A drive's own failure prediction; nothing when it has none.
 struct Prediction {
   bool failing{};
   std::array<std::uint8_t, 512> vendorData{};

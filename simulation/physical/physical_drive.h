@@ -1,6 +1,6 @@
 #pragma once
 
-// A drive that the system itself sees: the device behind `\\.\PhysicalDriveN`.
+// A drive without a controller: the device behind `\\.\PhysicalDriveN`.
 
 #include <cstddef>
 #include <cstdint>
@@ -33,7 +33,7 @@ class PhysicalDrive : public IoDevice {
   struct Request {
     std::string_view name;
     std::uint32_t controlCode;
-    /// Sends a command of the host's own to the drive.
+    /// Sends the host's own command to the drive.
     bool passesThrough;
     IoResult (PhysicalDrive::*execute)(Buffer, std::size_t, std::size_t);
   };

@@ -9,19 +9,19 @@
 
 namespace orvik::simulation {
 
-/// The consistency check of one logical drive: it runs in the background for as long as the machine's clock says.
-/// For one thread at a time.
+/// The consistency check of one logical drive: it runs in the background on the machine's clock.
+/// Not thread-safe.
 class ConsistencyCheck {
  public:
   ConsistencyCheck(const StorelibCheckDescription& description, bool consistent, std::shared_ptr<const Clock> clock);
 
-  /// False when it is running already.
+  /// False when it is already running.
   bool Start();
   /// Stops it without a verdict. False when it is not running.
   bool Cancel();
-  /// How far a running check is, out of 65535; nothing when none is running.
+  /// Progress of a running check, 0 to 65535; nothing when none is running.
   std::optional<std::uint16_t> Progress();
-  /// The verdict of the last check that ran to its end, or what was so when the machine started.
+  /// Result of the last finished check, or the state at the machine's start.
   bool Consistent();
 
  private:

@@ -17,12 +17,12 @@
 
 namespace orvik::simulation {
 
-/// May be used from several threads.
+/// Thread-safe.
 class Storelib {
  public:
   Storelib(const StorelibDescription& description, const std::shared_ptr<const Clock>& clock);
 
-  /// The name of the command in a packet ("STORELIB_CONTROLLER_INFO"); empty when it is none of the library's.
+  /// The name of the command in a packet ("STORELIB_CONTROLLER_INFO"); empty for unknown commands.
   static std::string_view CommandName(std::span<const std::uint8_t> packet);
   /// True when a command has this name.
   static bool HasCommand(std::string_view name);

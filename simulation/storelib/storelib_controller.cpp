@@ -37,7 +37,7 @@ StorelibController::LogicalDrive* StorelibController::FindLogicalDrive(std::uint
   return found == logicalDrives_.end() ? nullptr : &*found;
 }
 
-// Nothing of what these answer from ever changes, and a drive executes one command at a time by itself: no lock.
+// No lock: these read constant data only, and a drive executes one command at a time.
 // NOLINTBEGIN(readability-make-member-function-const): commands have one signature
 
 StorelibStatus StorelibController::Information(const StorelibRequest& request) {

@@ -14,14 +14,14 @@
 
 namespace orvik::simulation {
 
-/// May be used from several threads.
+/// Thread-safe.
 class StorelibController {
  public:
   StorelibController(StorelibControllerDescription description, const std::shared_ptr<const Clock>& clock);
 
   std::uint32_t Id() const { return description_.controllerId; }
 
-  // The commands. A block has at least the size that its command needs, and stays as it was on failure.
+  // The commands. A block has at least the size that its command needs and is unchanged on failure.
   StorelibStatus Information(const StorelibRequest& request);
   StorelibStatus PhysicalDriveList(const StorelibRequest& request);
   StorelibStatus EnclosureList(const StorelibRequest& request);
@@ -36,7 +36,7 @@ class StorelibController {
   StorelibStatus ScsiPassThrough(const StorelibRequest& request);
   StorelibStatus SataPassThrough(const StorelibRequest& request);
 
-  // Changes behind the host's back. False when the controller has no such drive or enclosure.
+  // Changes without a command from the host. False when the controller has no such drive or enclosure.
   bool SetState(std::uint8_t targetId, StorelibDriveState state);
   bool SetEnclosureFault(std::uint16_t enclosureId, std::uint8_t faultByte);
   void SetBattery(const StorelibBatteryDescription& battery);

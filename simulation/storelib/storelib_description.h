@@ -35,7 +35,7 @@ struct StorelibPhysicalDriveDescription {
   std::optional<std::uint8_t> interfaceByte{};
 };
 
-/// How a consistency check of a logical drive goes. It takes machine time from the command that starts it.
+/// Duration, in machine time, and outcome of a logical drive's consistency check.
 struct StorelibCheckDescription {
   std::uint32_t seconds = 120;
   /// The check is under way when the machine starts, this far (0 to 65535).
@@ -49,7 +49,7 @@ struct StorelibCheckDescription {
 struct StorelibLogicalDriveDescription {
   std::uint8_t targetId{};
   std::uint16_t sequenceNumber = 1;
-  /// 0, 1, 3, 4, 5, 6 or 17; the secondary level 3 stands for a span (RAID 10, 50, 60).
+  /// 0, 1, 3, 4, 5, 6 or 17; the secondary level 3 means a span (RAID 10, 50, 60).
   std::uint8_t primaryLevel = 5;
   std::uint8_t secondaryLevel{};
   StorelibDriveState state = StorelibDriveState::Optimal;
@@ -63,7 +63,7 @@ struct StorelibLogicalDriveDescription {
 
 struct StorelibEnclosureDescription {
   std::uint16_t enclosureId{};
-  /// 0: in order.
+  /// 0: no fault.
   std::uint8_t faultByte{};
 };
 
@@ -89,7 +89,7 @@ struct StorelibControllerDescription {
   std::vector<StorelibEnclosureDescription> enclosures{};
 };
 
-/// How much of the vendor's library is there.
+/// How far the vendor's library is installed.
 enum class StorelibInstallation : std::uint8_t {
   Installed,
   Missing,            ///< the file cannot be loaded

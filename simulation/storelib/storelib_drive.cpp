@@ -15,7 +15,7 @@ constexpr std::uint32_t kBlockSize = 512;
 constexpr std::uint8_t kInquiry = 0x12;
 constexpr std::uint8_t kAtaErrorBit = 0x01;
 
-// The last characters of an ATA revision tell most, unless they are blank.
+// The last four characters of an ATA revision, unless they are blank.
 std::string ScsiRevision(std::string firmware) {
   firmware.resize(8, ' ');
   const std::string last = firmware.substr(4);
@@ -61,8 +61,8 @@ std::uint8_t InterfaceOf(const Drive& drive) {
   return physical_drive_info::kUnknown;
 }
 
-// The bytes of the frame that the drive reads or fills. Nothing moves when the frame has the data go another way than
-// the command does.
+// The bytes of the frame that the drive reads or fills. Empty when the frame and the command disagree on the
+// direction.
 std::span<std::uint8_t> DataArea(std::span<std::uint8_t> frame, Block area, std::uint8_t wanted,
                                  DataDirection direction) {
   const std::uint8_t own = direction == DataDirection::In ? frame_direction::kIn : frame_direction::kOut;
@@ -70,7 +70,7 @@ std::span<std::uint8_t> DataArea(std::span<std::uint8_t> frame, Block area, std:
   return Inside(frame, area);
 }
 
-// The frame tells the way of the data twice.
+// The frame gives the data direction twice: in a byte and in the flags.
 bool DirectionsAgree(std::span<const std::uint8_t> frame) {
   constexpr std::array<std::uint32_t, 3> kFlagOf = {sata_frame::kNone, sata_frame::kOut, sata_frame::kIn};
   const std::uint8_t direction = Get(frame, sata_frame::kDirection);
@@ -143,7 +143,7 @@ StorelibStatus StorelibDrive::SataPassThrough(const StorelibRequest& request) co
   if (!wellFormed) return StorelibStatus::BadParameter;
   const auto* drive = std::get_if<std::shared_ptr<AtaDrive>>(&drive_);
   if (drive == nullptr || scsiDeviceType_ != kScsiDisk) return StorelibStatus::WrongKindOfDevice;
-  // The device register is not the host's here: the controller addresses by LBA.
+  // The controller replaces the host's device register: it addresses by LBA.
   command->device = kLbaMode;
   const auto data = DataArea(frame, area, Get(frame, sata_frame::kDirection), AtaDrive::DirectionOf(*command));
   const auto completion = (*drive)->Execute(*command, data);

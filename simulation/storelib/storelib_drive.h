@@ -13,7 +13,7 @@
 
 namespace orvik::simulation {
 
-/// May be used from several threads.
+/// Thread-safe.
 class StorelibDrive {
  public:
   StorelibDrive(const StorelibPhysicalDriveDescription& description, const std::shared_ptr<const Clock>& clock);

@@ -146,7 +146,7 @@ inline constexpr std::uint8_t kRunning = 0x01;
 inline constexpr std::size_t kSize = 36;
 }  // namespace check_progress
 
-// The way of the data, in the frames of both pass-through commands.
+// Data direction, in the frames of both pass-through commands.
 namespace frame_direction {
 inline constexpr std::uint8_t kNone = 0;
 inline constexpr std::uint8_t kOut = 1;
@@ -175,7 +175,7 @@ inline constexpr Le32 kDataLength{36};
 inline constexpr Block kStatusFis{40, 20};
 inline constexpr std::size_t kData = 60;
 
-// Flags: the way of the data once more.
+// Flags: the data direction again.
 inline constexpr std::uint32_t kDirections = 0x07;
 inline constexpr std::uint32_t kIn = 0x01;
 inline constexpr std::uint32_t kOut = 0x02;

@@ -36,7 +36,7 @@ struct StorelibRequest {
   std::uint8_t TargetId() const { return Get(packet, command_packet::kTargetId); }
   std::uint16_t SequenceNumber() const { return Get(packet, command_packet::kSequenceNumber); }
 
-  /// The block as it is before it is filled.
+  /// The block, zeroed before it is filled.
   std::span<std::uint8_t> CleanData() const {
     std::ranges::fill(data, std::uint8_t{0});
     return data;

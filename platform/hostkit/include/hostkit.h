@@ -70,7 +70,7 @@ class LibraryLoader {
 
   virtual ~LibraryLoader() = default;                             // slot 0
   virtual void* Load(const char* path, std::int32_t mode) = 0;    // slot 1: null on failure
-  virtual void* FindSymbol(void* library, const char* name) = 0;  // slot 2: null when there is none
+  virtual void* FindSymbol(void* library, const char* name) = 0;  // slot 2: null if not found
   virtual void Unload(void* library) = 0;                         // slot 3
 };
 
@@ -84,6 +84,6 @@ hostkit::Timer* get_timer();
 hostkit::FileSystem* get_filesystem();
 hostkit::LibraryLoader* get_module();
 
-/// Zero-terminated UTF-8 path of the folder for temporary files; empty when there is none.
+/// Zero-terminated UTF-8 path of the folder for temporary files; empty if unknown.
 const char* get_temporary_path();
 }

@@ -36,7 +36,7 @@ std::span<const AtaDrive::Command> AtaDrive::Commands() {
       {0x30, Out, false, &AtaDrive::WriteSectors},
       {0x34, Out, true, &AtaDrive::WriteSectors},
       {0x45, None, true, &AtaDrive::WriteUncorrectableExt},
-      {0xB0, In, false, &AtaDrive::Smart},  // the way of the data depends on the feature
+      {0xB0, In, false, &AtaDrive::Smart},  // the data direction depends on the feature
       {0xE0, None, false, &AtaDrive::StandbyImmediate},
       {0xE1, None, false, &AtaDrive::IdleImmediate},
       {0xE5, None, false, &AtaDrive::CheckPowerMode},
@@ -69,7 +69,7 @@ std::optional<AtaCompletion> AtaDrive::Execute(const AtaTaskFile& command, std::
   return (this->*known->execute)(command, data);
 }
 
-// Data that were given byte for byte stay as they are; the drive's own show what has been switched since.
+// Given data is returned unchanged; generated data shows the current settings.
 AtaCompletion AtaDrive::IdentifyDevice(const AtaTaskFile& command, Data data) {
   if (!description_.identify.empty()) return Delivered(command, identify_, data);
   return Delivered(command, WithSmartEnabled(identify_, smartEnabled_), data);
@@ -87,7 +87,7 @@ AtaCompletion AtaDrive::IdleImmediate(const AtaTaskFile& command, Data /*data*/)
   return Completed(command);
 }
 
-// A drive that spins down cannot go on with its self-test.
+// Spinning down aborts a running self-test.
 AtaCompletion AtaDrive::StandbyImmediate(const AtaTaskFile& command, Data /*data*/) {
   selfTests_.Abort();
   powerMode_ = kStandby;

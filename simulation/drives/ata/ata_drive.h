@@ -44,7 +44,7 @@ inline constexpr std::uint8_t kAtaAborted = 0x04;
 inline constexpr std::uint8_t kAtaIdNotFound = 0x10;
 inline constexpr std::uint8_t kAtaUncorrectable = 0x40;
 
-/// May be used from several threads; executes one command at a time.
+/// Thread-safe; executes one command at a time.
 class AtaDrive {
  public:
   explicit AtaDrive(SataDriveDescription description,
@@ -52,11 +52,11 @@ class AtaDrive {
 
   /// Executes `command` on `data`, the bytes that come in or go out. Nothing when the drive does not answer.
   std::optional<AtaCompletion> Execute(const AtaTaskFile& command, std::span<std::uint8_t> data);
-  /// The way that the data of `command` go.
+  /// The direction of a command's data.
   static DataDirection DirectionOf(const AtaTaskFile& command);
 
   const SataDriveDescription& Description() const { return description_; }
-  /// What is on the drive.
+  /// The drive's contents.
   SectorStore& Store() { return store_; }
 
  private:
@@ -65,7 +65,7 @@ class AtaDrive {
   struct Command {
     std::uint8_t code;
     DataDirection direction;
-    /// One with 48-bit addresses.
+    /// Has 48-bit addresses.
     bool extended;
     AtaCompletion (AtaDrive::*execute)(const AtaTaskFile&, Data);
   };
@@ -80,13 +80,13 @@ class AtaDrive {
   AtaCompletion ReadSectors(const AtaTaskFile& command, Data data);
   AtaCompletion WriteSectors(const AtaTaskFile& command, Data data);
   AtaCompletion WriteUncorrectableExt(const AtaTaskFile& command, Data data);
-  /// The sectors that a command names.
+  /// The sectors that a command addresses.
   struct Range {
     std::uint64_t first;
     std::uint64_t count;
     std::uint64_t Bytes(std::uint32_t sectorSize) const { return count * sectorSize; }
   };
-  /// Nothing, and `refusal`, when the drive does not have them.
+  /// Nothing, with `refusal` set, when the drive does not have them.
   std::optional<Range> RangeOf(const AtaTaskFile& command, AtaCompletion& refusal) const;
 
   AtaCompletion Smart(const AtaTaskFile& command, Data data);

@@ -1,6 +1,6 @@
 #pragma once
 
-// The registers of ATA commands (ACS-3): in a FIS, as SMART uses them, and as a command leaves them.
+// The registers of ATA commands (ACS-3): their FIS, their use by SMART, and their values after a command.
 
 #include <algorithm>
 #include <cstddef>
@@ -12,7 +12,7 @@
 
 namespace orvik::simulation {
 
-/// The command in a host-to-device register FIS (Serial ATA, 20 bytes); nothing when `fis` is none.
+/// The command in a host-to-device register FIS (Serial ATA, 20 bytes); nothing for any other FIS.
 std::optional<AtaTaskFile> ReadCommandFis(std::span<const std::uint8_t> fis);
 
 /// Fills `fis` (20 bytes) with the device-to-host register FIS that ends a command.

@@ -11,7 +11,7 @@ constexpr std::uint8_t kLbaMode = 0x40;
 constexpr std::uint64_t kLbaRegisters28 = 0xFFFFFF;
 constexpr std::uint8_t kActive = 0xFF;
 
-// What WRITE UNCORRECTABLE EXT does to sectors, in its features register.
+// Features of WRITE UNCORRECTABLE EXT.
 constexpr std::uint8_t kPseudoUncorrectable = 0x55;
 constexpr std::uint8_t kFlaggedUncorrectable = 0xAA;
 
@@ -29,7 +29,7 @@ AtaCompletion FailedAt(const AtaTaskFile& command, std::uint8_t error, std::uint
 
 }  // namespace
 
-// A count of 0 stands for the most that the register can not hold.
+// A count of 0 means one more than the register can hold.
 std::optional<AtaDrive::Range> AtaDrive::RangeOf(const AtaTaskFile& command, AtaCompletion& refusal) const {
   const bool extended = Find(command.command)->extended;
   Range range{.first = command.lba, .count = command.count};

@@ -13,7 +13,7 @@ namespace orvik::simulation {
 
 namespace {
 
-// LBA mid and high: the key to every SMART command, and what they become when a threshold is exceeded.
+// LBA mid and high: the signature in every SMART command, and their values when a threshold is exceeded.
 constexpr std::uint64_t kKeyRegisters = 0xFFFF00;
 constexpr std::uint64_t kKey = 0xC24F00;
 constexpr std::uint64_t kThresholdExceeded = 0x2CF400;
@@ -31,7 +31,7 @@ std::size_t PageNumber(const AtaTaskFile& command) {
   return (command.lba >> 8 & 0xFF) | (command.lba >> 32 & 0xFF) << 8;
 }
 
-// Captive tests, which would hold the bus until their end, have numbers of their own that are not here.
+// Captive tests, which block the drive until they end, are not supported.
 std::optional<SelfTestKind> SelfTestOf(std::uint8_t subcommand) {
   for (const auto kind : {SelfTestKind::Short, SelfTestKind::Extended, SelfTestKind::Conveyance}) {
     if (AtaSelfTestNumber(kind) == subcommand) return kind;
@@ -45,7 +45,7 @@ AtaCompletion AtaDrive::Smart(const AtaTaskFile& command, Data data) {
   const std::uint8_t feature = SmartFeature(command);
   if (!features_.smartSupported || (command.lba & kKeyRegisters) != kKey) return Aborted(command);
   if (feature == smart_feature::kEnable || feature == smart_feature::kDisable) {
-    // Nothing but switching on is there for a host while it is off.
+    // While SMART is off, only the command that enables it works.
     if (!smartEnabled_ && feature == smart_feature::kDisable) return Aborted(command);
     smartEnabled_ = feature == smart_feature::kEnable;
     return Completed(command);

@@ -52,7 +52,7 @@ constexpr std::uint16_t kLargeSectors = 0x1000;        // 106
 constexpr std::uint16_t kSizesValid = 0x4000;          // 106
 constexpr std::uint16_t kSizesInvalid = 0x8000;        // 106
 
-// The two characters of each word stand in swapped order.
+// The two characters of each word are swapped.
 void SetSwappedText(std::span<std::uint8_t> data, Block block, std::string_view text) {
   SetText(data, block, text, ' ');
   const auto bytes = Inside(data, block);
@@ -77,7 +77,7 @@ void SetCapacity(std::span<std::uint8_t> data, const SataDriveDescription& drive
 void SetCapabilities(std::span<std::uint8_t> data) {
   using identify::Word;
   Set(data, Word(0), 0x0040);  // fixed drive
-  Set(data, Word(1), 0x3FFF);  // the geometry that stands for "see the sector counts"
+  Set(data, Word(1), 0x3FFF);  // placeholder geometry: see the sector counts
   Set(data, Word(3), 0x0010);
   Set(data, Word(6), 0x003F);
   Set(data, Word(47), 0x8010);  // 16 sectors per multiple transfer
@@ -98,7 +98,7 @@ std::uint16_t Without(std::uint16_t word, std::uint16_t bit, bool without) {
   return without ? static_cast<std::uint16_t>(word & ~bit) : word;
 }
 
-// Words 82 to 84 say what the drive can do, 85 to 87 what of it is switched on.
+// Words 82 to 84 list supported features, 85 to 87 enabled ones.
 void SetCommandSets(std::span<std::uint8_t> data, const SataDriveDescription& drive) {
   const bool noSmart = drive.smart == FailurePrediction::Missing;
   const bool smartOff = drive.smart != FailurePrediction::Enabled;

@@ -34,7 +34,7 @@ constexpr Le32 kFailingLbaLow{5};
 constexpr Le16 kFailingLbaHigh{9};
 }  // namespace extended_log
 
-// What descriptors of both logs begin with.
+// The first fields of the descriptors in both logs.
 namespace descriptor {
 constexpr U8 kTest{0};
 constexpr U8 kStatus{1};

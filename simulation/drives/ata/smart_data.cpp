@@ -92,7 +92,7 @@ void SetAttribute(std::span<std::uint8_t> entry, const Attribute& attribute) {
 }
 
 void SetSelfTestTimes(std::span<std::uint8_t> data, const SmartReport& report) {
-  // A byte that is too small for the time says so, and a word follows.
+  // Means that the word that follows has the time.
   constexpr std::uint16_t kSeeWord = 0xFF;
   unsigned capability = kOfflineImmediate | kOfflineAbort | kOfflineScan;
   if (report.shortMinutes != 0 || report.extendedMinutes != 0) capability |= kSelfTest;

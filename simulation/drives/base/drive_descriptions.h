@@ -15,7 +15,7 @@ namespace orvik::simulation {
 inline constexpr std::uint16_t kRotationNotReported = 0;
 inline constexpr std::uint16_t kSolidState = 1;
 
-/// A SAS drive of this temperature says that it does not know it.
+/// Temperature of a SAS drive that does not report one.
 inline constexpr int kTemperatureNotReported = 255;
 
 /// Whether a drive predicts its failure, and whether that is switched on when the machine starts.
@@ -28,16 +28,16 @@ struct PastSelfTest {
   SelfTestKind kind = SelfTestKind::Extended;
   /// Of the drive's life, when it ended.
   std::uint16_t hours{};
-  /// Passed without one.
+  /// The test passed without it.
   std::optional<std::uint64_t> failingLba{};
 };
 
-/// A test that takes no time is one that the drive does not have. SAS drives have no conveyance test.
+/// A drive does not support a test of 0 minutes. SAS drives have no conveyance test.
 struct SelfTestDescription {
   std::uint16_t shortMinutes = 2;
   std::uint16_t extendedMinutes = 60;
   std::uint16_t conveyanceMinutes = 5;
-  /// Where every test that runs to its end fails; without it, they pass.
+  /// The sector at which finished tests fail; without it, they pass.
   std::optional<std::uint64_t> failingLba{};
   /// The oldest first.
   std::vector<PastSelfTest> log{};
@@ -54,8 +54,7 @@ struct SataDriveDescription {
   std::uint16_t rotationRate = 7200;
   /// Does not answer any command.
   bool silent = false;
-  /// The 512 bytes of IDENTIFY DEVICE as they stand; capacity and features are taken from them. Empty: made from the
-  /// fields above and below.
+  /// The 512 bytes of IDENTIFY DEVICE, from which capacity and features are taken. Empty: made from the other fields.
   std::vector<std::uint8_t> identify{};
   /// 48-bit addresses.
   bool lba48 = true;
@@ -89,13 +88,13 @@ struct SasDriveDescription {
   /// Of the drive's port; without it the controller gives it one.
   std::optional<std::uint64_t> sasAddress{};
   bool silent = false;
-  /// The standard INQUIRY data as they stand; empty: made from the fields above.
+  /// The standard INQUIRY data. Empty: made from the fields above.
   std::vector<std::uint8_t> inquiry{};
   FailurePrediction informationalExceptions = FailurePrediction::Enabled;
   bool failing = false;
   int temperatureCelsius = 35;
   std::uint32_t powerOnHours = 1000;
-  /// Sense data in descriptor format in place of the fixed one.
+  /// Sense data in descriptor instead of fixed format.
   bool descriptorSense = false;
   SelfTestDescription selfTest{};
   std::vector<std::uint64_t> unreadableSectors{};
@@ -126,17 +125,17 @@ struct NvmeDriveDescription {
 
 using DriveDescription = std::variant<SataDriveDescription, SasDriveDescription, NvmeDriveDescription>;
 
-/// A drive that the system itself sees, as `\\.\PhysicalDriveN`.
+/// A drive without a controller, `\\.\PhysicalDriveN`.
 struct PhysicalDriveDescription {
   DriveDescription drive{};
-  /// The system lets no command through to the drive.
+  /// The system blocks every command to the drive.
   bool accessDenied = false;
 };
 
-/// Which way the data of a command goes, seen from the host.
+/// Direction of a command's data, seen from the host.
 enum class DataDirection : std::uint8_t { None, In, Out };
 
-/// The vendor's log with the text of the label that is glued on the drive.
+/// The vendor's log with the text of the drive's printed label.
 inline constexpr std::uint8_t kLabelLog = 0xDF;
 
 std::vector<std::uint8_t> MakeLabelLog(std::string_view label);

@@ -1,6 +1,6 @@
 #pragma once
 
-// What is written on a drive. Only sectors that have been written take memory; the others hold zeros.
+// The contents of a drive. Only sectors that have been written take memory; the others hold zeros.
 
 #include <cstddef>
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 namespace orvik::simulation {
 
-/// May be used from several threads.
+/// Thread-safe.
 class SectorStore {
  public:
   SectorStore(std::uint64_t sectors, std::uint32_t sectorSize, std::span<const std::uint64_t> unreadable);

@@ -1,6 +1,6 @@
 #pragma once
 
-// The self-tests of a drive: one may run in the background, and those that have ended are remembered.
+// The self-tests of a drive: the one running in the background and those that have ended.
 
 #include <cstdint>
 #include <memory>
@@ -32,12 +32,12 @@ struct RunningSelfTest {
   std::uint8_t TenthsLeft() const { return static_cast<std::uint8_t>((1 - done) * 9.99); }
 };
 
-/// For one thread at a time.
+/// Not thread-safe.
 class SelfTests {
  public:
   SelfTests(SelfTestDescription description, std::uint32_t powerOnHours, std::shared_ptr<const Clock> clock);
 
-  /// How long a test takes; 0: the drive does not have it.
+  /// Duration of a test; 0: the drive does not support it.
   std::uint16_t Minutes(SelfTestKind kind) const;
   /// Whether a test that runs to its end fails.
   bool Fails() const { return description_.failingLba.has_value(); }

@@ -43,7 +43,7 @@ struct NvmeCompletion {
   std::size_t transferred{};
 };
 
-/// May be used from several threads; executes one command at a time.
+/// Thread-safe; executes one command at a time.
 class NvmeDrive {
  public:
   explicit NvmeDrive(NvmeDriveDescription description,
@@ -53,7 +53,7 @@ class NvmeDrive {
   std::optional<NvmeCompletion> Execute(const NvmeCommand& command, std::span<std::uint8_t> data);
 
   const NvmeDriveDescription& Description() const { return description_; }
-  /// What is on the drive.
+  /// The drive's contents.
   SectorStore& Store() { return store_; }
 
  private:

@@ -11,7 +11,7 @@
 
 namespace orvik::simulation {
 
-/// For one thread at a time.
+/// Not thread-safe.
 class ExceptionsPage {
  public:
   static constexpr std::uint8_t kCode = 0x1C;
@@ -24,9 +24,9 @@ class ExceptionsPage {
   explicit ExceptionsPage(FailurePrediction prediction);
 
   Bytes Read(Values values) const;
-  /// Takes over the page; the number of the first byte that the drive does not accept, if any.
+  /// Stores the page; returns the position of the first byte that the drive rejects, if any.
   std::optional<std::uint16_t> Write(std::span<const std::uint8_t> page, bool save);
-  /// Whether a failure that is predicted shows in the log page.
+  /// Whether a predicted failure shows in the log page.
   bool Watches() const;
   /// Whether it shows in sense data, too.
   bool ReportsInSense() const;

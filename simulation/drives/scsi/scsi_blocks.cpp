@@ -38,7 +38,7 @@ ScsiCompletion ScsiDrive::ReadBlocks(Cdb cdb, Data data) {
   return completion;
 }
 
-// Blocks that the host promises and does not send are a length that does not fit.
+// Fewer blocks than the CDB announces are a parameter list length error.
 ScsiCompletion ScsiDrive::WriteBlocks(Cdb cdb, Data data) {
   if ((Get(cdb, kFlags) & kProtectionBits) != 0) return RefuseField(kFlags);
   const Blocks blocks = BlocksOf(cdb);

@@ -1,4 +1,4 @@
-// Self-tests of a SCSI drive, and the sense data that it has without an error.
+// Self-tests of a SCSI drive, and REQUEST SENSE.
 
 #include "simulation/drives/scsi/scsi_drive.h"
 
@@ -23,7 +23,7 @@ constexpr std::uint8_t kDescriptorFormat = 0x01;
 
 }  // namespace
 
-// The default self-test is short and answers when it is done.
+// The default self-test is short and completes before the command does.
 ScsiCompletion ScsiDrive::DefaultSelfTest() {
   if (selfTests_.Fails()) return Refuse({.code = kSelfTestFailed});
   return {};
@@ -36,7 +36,7 @@ ScsiCompletion ScsiDrive::StartBackgroundTest(SelfTestKind kind) {
   return {};
 }
 
-// Foreground tests, which would hold back every other command until their end, are not offered.
+// Foreground tests, which block all other commands until they end, are not supported.
 ScsiCompletion ScsiDrive::SendDiagnostic(Cdb cdb, Data /*data*/) {
   using namespace send_diagnostic_cdb;
   const std::uint8_t flags = Get(cdb, kFlags);

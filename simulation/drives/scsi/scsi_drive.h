@@ -30,7 +30,7 @@ struct ScsiCompletion {
   std::size_t transferred{};
 };
 
-/// May be used from several threads; executes one command at a time.
+/// Thread-safe; executes one command at a time.
 class ScsiDrive {
  public:
   explicit ScsiDrive(SasDriveDescription description,
@@ -38,11 +38,11 @@ class ScsiDrive {
 
   /// Executes `cdb` on `data`, the bytes that come in or go out. Nothing when the drive does not answer.
   std::optional<ScsiCompletion> Execute(std::span<const std::uint8_t> cdb, std::span<std::uint8_t> data);
-  /// The way that the data of a command go.
+  /// The direction of a command's data.
   static DataDirection DirectionOf(std::span<const std::uint8_t> cdb);
 
   const SasDriveDescription& Description() const { return description_; }
-  /// What is on the drive.
+  /// The drive's contents.
   SectorStore& Store() { return store_; }
 
  private:
@@ -62,7 +62,7 @@ class ScsiDrive {
   ScsiCompletion SendDiagnostic(Cdb cdb, Data data);
   ScsiCompletion DefaultSelfTest();
   ScsiCompletion StartBackgroundTest(SelfTestKind kind);
-  /// What there is to say without being asked about a command.
+  /// Sense data without a failed command.
   Sense PendingSense();
 
   ScsiCompletion Inquiry(Cdb cdb, Data data);

@@ -1,4 +1,4 @@
-// What a SCSI drive says it is: INQUIRY (SPC-4) and READ CAPACITY (SBC-3).
+// INQUIRY (SPC-4) and READ CAPACITY (SBC-3) of a SCSI drive.
 
 #include <algorithm>
 #include <array>
@@ -77,7 +77,7 @@ std::vector<std::uint8_t> CharacteristicsPage(const SasDriveDescription& drive) 
   return content;
 }
 
-// What follows the header of a page; nothing when the drive does not have it.
+// A page without its header; nothing for an unsupported page.
 std::optional<std::vector<std::uint8_t>> VitalProductData(const SasDriveDescription& drive, std::uint8_t page) {
   using namespace vital_product_data;
   switch (page) {
@@ -134,7 +134,7 @@ ScsiCompletion ScsiDrive::Inquiry(Cdb cdb, Data data) {
   return Deliver(reply, allocation, data);
 }
 
-// A drive that is too large for 32 bits says so by the largest number.
+// A drive too large for 32 bits reports the largest number.
 ScsiCompletion ScsiDrive::ReadCapacity10(Cdb cdb, Data data) {
   constexpr std::uint64_t kTooLarge = std::numeric_limits<std::uint32_t>::max();
   const bool partial = (Get(cdb, read_capacity10::kFlags) & read_capacity10::kPmi) != 0;

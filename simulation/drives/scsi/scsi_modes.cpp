@@ -20,7 +20,7 @@ constexpr unsigned kValuesShift = 6;
 
 constexpr std::uint8_t kForceUnitAccess = 0x10;  // device-specific parameter
 
-// What the forms of 6 and 10 bytes differ in: the length in the CDB and the header of the mode data.
+// The differences between the 6-byte and 10-byte forms: the length in the CDB and the mode data's header.
 struct Form {
   bool isLong;
   std::size_t headerSize;
