@@ -50,8 +50,6 @@ class Adapter : public IoDevice {
   Adapter(AdapterDescription description, const std::shared_ptr<const Clock>& clock);
 
   const AdapterDescription& Description() const { return description_; }
-  /// Null when the adapter has no CSMI controller.
-  CsmiController* Csmi() const { return csmi_.get(); }
 
   std::string_view PacketName(std::uint32_t controlCode, std::span<const std::uint8_t> buffer) const override;
   IoResult Control(std::uint32_t controlCode, std::span<std::uint8_t> buffer, std::size_t inputSize,

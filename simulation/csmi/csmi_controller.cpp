@@ -92,12 +92,6 @@ void CsmiController::Answer(std::span<std::uint8_t> packet) {
   Set(packet, srb_io_control::kReturnCode, returnCode);
 }
 
-void CsmiController::SetStatus(CsmiStatus status, CsmiOfflineReason reason) {
-  const std::scoped_lock lock(mutex_);
-  description_.status = status;
-  description_.offlineReason = reason;
-}
-
 std::uint32_t CsmiController::GetControllerConfig(std::span<std::uint8_t> packet) {
   Set(packet, controller_config::kBoardId, description_.boardId);
   Set(packet, controller_config::kControllerClass, kControllerClassHba);
@@ -111,8 +105,8 @@ std::uint32_t CsmiController::GetControllerConfig(std::span<std::uint8_t> packet
   return kCsmiSuccess;
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): packets have one signature
 std::uint32_t CsmiController::GetControllerStatus(std::span<std::uint8_t> packet) {
-  const std::scoped_lock lock(mutex_);
   Set(packet, controller_status::kStatus, static_cast<std::uint32_t>(description_.status));
   Set(packet, controller_status::kOfflineReason, static_cast<std::uint32_t>(description_.offlineReason));
   return kCsmiSuccess;

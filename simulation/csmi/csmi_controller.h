@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <mutex>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -36,9 +35,6 @@ class CsmiController {
   /// The NVMe drives, which have requests of their own.
   const NvmePaths& Nvme() const { return nvmePaths_; }
 
-  void SetStatus(CsmiStatus status, CsmiOfflineReason reason);
-  const std::vector<Drive>& Drives() const { return drives_; }
-
  private:
   // A packet's control code, its least size and its handler.
   struct Packet {
@@ -66,7 +62,6 @@ class CsmiController {
   std::vector<Drive> drives_;
   CsmiPhys phys_;
   NvmePaths nvmePaths_;
-  std::mutex mutex_;  // guards the status and its reason in `description_`
 };
 
 }  // namespace orvik::simulation

@@ -35,17 +35,9 @@ void Ledger::RecordAffinityRequest(std::uint64_t mask) {
   affinityRequests_.push_back(mask);
 }
 
-Ledger::Account Ledger::Of(Resource kind) const {
-  const std::scoped_lock lock(mutex_);
-  return accounts_.at(Index(kind));
-}
-
-std::size_t Ledger::Taken(Resource kind) const {
-  return Of(kind).taken;
-}
-
 std::size_t Ledger::Outstanding(Resource kind) const {
-  const Account account = Of(kind);
+  const std::scoped_lock lock(mutex_);
+  const Account& account = accounts_.at(Index(kind));
   return account.taken - account.returned;
 }
 

@@ -23,7 +23,6 @@ class Ledger {
   /// Records a thread's request to run on the processors of `mask`.
   void RecordAffinityRequest(std::uint64_t mask);
 
-  std::size_t Taken(Resource kind) const;
   std::size_t Outstanding(Resource kind) const;
   std::size_t OutstandingTotal() const;
   std::size_t InvalidReleases() const;
@@ -36,8 +35,6 @@ class Ledger {
     std::size_t returned = 0;
     std::size_t invalid = 0;
   };
-
-  Account Of(Resource kind) const;
 
   mutable std::mutex mutex_;
   std::array<Account, kResourceKinds> accounts_{};

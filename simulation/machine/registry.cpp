@@ -17,11 +17,6 @@ void Registry::Set(const RegistryValue& value) {
   values_[Place(value.key, value.name)] = value.text;
 }
 
-void Registry::Remove(std::string_view key, std::string_view name) {
-  const std::scoped_lock lock(mutex_);
-  values_.erase(Place(key, name));
-}
-
 std::optional<std::string> Registry::Find(std::string_view key, std::string_view name) const {
   const std::scoped_lock lock(mutex_);
   const auto found = values_.find(Place(key, name));

@@ -22,7 +22,6 @@ struct RegistryValue {
 class Registry {
  public:
   void Set(const RegistryValue& value);
-  void Remove(std::string_view key, std::string_view name);
   std::optional<std::string> Find(std::string_view key, std::string_view name) const;
 
  private:

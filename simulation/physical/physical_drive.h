@@ -21,7 +21,6 @@ class PhysicalDrive : public IoDevice {
 
   /// True when a fault rule knows a request by this name.
   static bool HasRequest(std::string_view name);
-  const Drive& Inner() const { return drive_; }
 
   std::string_view PacketName(std::uint32_t controlCode, std::span<const std::uint8_t> buffer) const override;
   IoResult Control(std::uint32_t controlCode, std::span<std::uint8_t> buffer, std::size_t inputSize,

@@ -2,7 +2,6 @@
 
 // The vendor's library: it takes command packets and hands them to the controllers that it manages.
 
-#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -32,7 +31,6 @@ class Storelib {
   std::uint32_t Execute(std::span<std::uint8_t> packet, std::span<std::uint8_t> data);
 
   StorelibInstallation Installation() const { return installation_; }
-  void SetInstallation(StorelibInstallation installation) { installation_ = installation; }
   /// Initialisations that have not been closed.
   std::size_t Sessions() const;
   /// Null when no controller has this id.
@@ -56,7 +54,7 @@ class Storelib {
   StorelibStatus Close(const StorelibRequest& request);
 
   std::vector<std::unique_ptr<StorelibController>> controllers_;
-  std::atomic<StorelibInstallation> installation_;
+  StorelibInstallation installation_;
   mutable std::mutex mutex_;
   std::size_t sessions_ = 0;
 };

@@ -190,15 +190,6 @@ bool StorelibController::SetState(std::uint8_t targetId, StorelibDriveState stat
   return drive != nullptr;
 }
 
-bool StorelibController::SetEnclosureFault(std::uint16_t enclosureId, std::uint8_t faultByte) {
-  const std::scoped_lock lock(mutex_);
-  auto& enclosures = description_.enclosures;
-  const auto found = std::ranges::find(enclosures, enclosureId, &StorelibEnclosureDescription::enclosureId);
-  if (found == enclosures.end()) return false;
-  found->faultByte = faultByte;
-  return true;
-}
-
 void StorelibController::SetBattery(const StorelibBatteryDescription& battery) {
   const std::scoped_lock lock(mutex_);
   description_.battery = battery;

@@ -36,14 +36,11 @@ class StorelibController {
   StorelibStatus ScsiPassThrough(const StorelibRequest& request);
   StorelibStatus SataPassThrough(const StorelibRequest& request);
 
-  // Changes without a command from the host. False when the controller has no such drive or enclosure.
+  // Changes without a command from the host. False when the controller has no such drive.
   bool SetState(std::uint8_t targetId, StorelibDriveState state);
-  bool SetEnclosureFault(std::uint16_t enclosureId, std::uint8_t faultByte);
   void SetBattery(const StorelibBatteryDescription& battery);
   /// Whether a check of the logical drive is running.
   bool IsChecking(std::uint8_t targetId);
-  /// Null when no drive has this id.
-  const StorelibDrive* FindDrive(std::uint16_t deviceId) const;
 
  private:
   struct LogicalDrive {
@@ -51,6 +48,8 @@ class StorelibController {
     ConsistencyCheck check;
   };
 
+  // Null when no drive has this id.
+  const StorelibDrive* FindDrive(std::uint16_t deviceId) const;
   LogicalDrive* FindLogicalDrive(std::uint8_t targetId);
   /// The drive that a start or cancel command names; null, and `refusal`, when it names none.
   LogicalDrive* FindForCheck(const StorelibRequest& request, StorelibStatus& refusal);

@@ -20,7 +20,6 @@ class StorelibDrive {
 
   std::uint16_t DeviceId() const { return deviceId_; }
   std::uint8_t ScsiDeviceType() const { return scsiDeviceType_; }
-  const Drive& Inner() const { return drive_; }
 
   /// What the controller noted when it found the drive; it needs no answer of the drive.
   void FillInformation(std::span<std::uint8_t> block) const;

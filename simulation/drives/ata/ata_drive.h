@@ -56,8 +56,6 @@ class AtaDrive {
   static DataDirection DirectionOf(const AtaTaskFile& command);
 
   const SataDriveDescription& Description() const { return description_; }
-  /// The drive's contents.
-  SectorStore& Store() { return store_; }
 
  private:
   using Data = std::span<std::uint8_t>;

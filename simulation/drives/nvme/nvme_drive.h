@@ -53,8 +53,6 @@ class NvmeDrive {
   std::optional<NvmeCompletion> Execute(const NvmeCommand& command, std::span<std::uint8_t> data);
 
   const NvmeDriveDescription& Description() const { return description_; }
-  /// The drive's contents.
-  SectorStore& Store() { return store_; }
 
  private:
   using Data = std::span<std::uint8_t>;

@@ -42,8 +42,6 @@ class ScsiDrive {
   static DataDirection DirectionOf(std::span<const std::uint8_t> cdb);
 
   const SasDriveDescription& Description() const { return description_; }
-  /// The drive's contents.
-  SectorStore& Store() { return store_; }
 
  private:
   using Cdb = std::span<const std::uint8_t>;
