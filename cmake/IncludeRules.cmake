@@ -1,12 +1,13 @@
-# Who may include whom, as docs/architecture.md has it. Run as a script (cmake -DROOT=... -P IncludeRules.cmake) it
-# fails with a line for each include that the table does not allow; included by the project it makes every build do so.
+# Checks the includes against the table in docs/architecture.md: which layer may include which, and that the folders of a
+# layer do not include each other in a circle. As a script (cmake -DROOT=... -P IncludeRules.cmake) it prints each include
+# that breaks a rule and fails; included by the project, it runs in every build.
 
 cmake_minimum_required(VERSION 3.25)
 
 if(NOT CMAKE_SCRIPT_MODE_FILE)
   add_custom_target(include_rules ALL
     COMMAND "${CMAKE_COMMAND}" "-DROOT=${PROJECT_SOURCE_DIR}" -P "${CMAKE_CURRENT_LIST_FILE}"
-    COMMENT "Checking who includes whom" VERBATIM)
+    COMMENT "Checking the include rules" VERBATIM)
   return()
 endif()
 
@@ -38,6 +39,7 @@ function(layer_of path result)
 endfunction()
 
 set(bad 0)
+set(edges "")  # "folder > folder" inside a layer, without repetition
 file(GLOB_RECURSE files RELATIVE "${ROOT}"
   "${ROOT}/core/*" "${ROOT}/utils/*" "${ROOT}/module/*" "${ROOT}/platform/*" "${ROOT}/simulation/*" "${ROOT}/host/*")
 foreach(file IN LISTS files)
@@ -71,12 +73,46 @@ foreach(file IN LISTS files)
     else()
       continue()
     endif()
+    if(layer STREQUAL own)
+      get_filename_component(from "${file}" DIRECTORY)
+      get_filename_component(to "${target}" DIRECTORY)
+      if(NOT from STREQUAL to AND NOT "${from} > ${to}" IN_LIST edges)
+        list(APPEND edges "${from} > ${to}")
+        string(MAKE_C_IDENTIFIER "${from} > ${to}" key)
+        set(include_${key} "${file} includes ${target}")
+      endif()
+    endif()
     if(NOT layer STREQUAL own AND NOT layer IN_LIST allowed AND NOT target IN_LIST allowed)
       message("${file}: may not include ${target}")
       set(bad 1)
     endif()
   endforeach()
 endforeach()
+
+# A folder that includes no other folder is in no circle; without it, the next ones drop out. What remains is a circle, or
+# leads into one.
+set(count -1)
+while(NOT count EQUAL 0)
+  set(count 0)
+  set(sources "${edges}")
+  list(TRANSFORM sources REPLACE " > .*" "")
+  set(remaining "")
+  foreach(edge IN LISTS edges)
+    string(REGEX REPLACE ".* > " "" to "${edge}")
+    if(to IN_LIST sources)
+      list(APPEND remaining "${edge}")
+    else()
+      math(EXPR count "${count} + 1")
+    endif()
+  endforeach()
+  set(edges "${remaining}")
+endwhile()
+foreach(edge IN LISTS edges)
+  string(MAKE_C_IDENTIFIER "${edge}" key)
+  message("folders in a circle: ${edge} (${include_${key}})")
+  set(bad 1)
+endforeach()
+
 if(bad)
-  message(FATAL_ERROR "The table in docs/architecture.md says who may include whom.")
+  message(FATAL_ERROR "docs/architecture.md has the table of who may include whom.")
 endif()
