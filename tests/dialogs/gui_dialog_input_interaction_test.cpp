@@ -11,6 +11,7 @@
 
 #include "module/raid/diagnostics/context_adapter.h"
 #include "tests/dialogs/desktop_machine.h"
+#include "tests/dialogs/gui_events.h"
 
 namespace orvik::testing {
 namespace {
@@ -40,6 +41,11 @@ class GuiDialogInputInteractionTest : public DesktopMachine {
     });
     loop.exec();
     worker.join();
+  }
+
+  // Whether the dialog is still open after a poll for an abort.
+  static bool StaysOpen(const QWidget& dialog) {
+    return !WaitFor([&] { return !dialog.isVisible(); }, 1200);
   }
 
   bool shown_ = false;
@@ -92,6 +98,7 @@ TEST_F(GuiDialogInputInteractionTest, WorkerWaitsForTheAnswer) {
     EXPECT_TRUE(dialog.isModal());
     EXPECT_TRUE(dialog.windowFlags().testFlag(Qt::FramelessWindowHint));
     EXPECT_FALSE(dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_TRUE(StaysOpen(dialog));
     dialog.findChild<QPushButton*>("generic_input_button_cancel")->click();
   };
   OnWorker([&] { interaction.Interact(); }, press);
@@ -116,7 +123,8 @@ TEST_F(GuiDialogInputInteractionTest, AbortClosesTheDialog) {
     request->context = &context;
     GuiDialogInputInteraction interaction(request.get(), "RAID", false, true);
     QElapsedTimer time;
-    const auto setAbort = [&](QWidget&) {
+    const auto setAbort = [&](QWidget& dialog) {
+      EXPECT_TRUE(beforehand || StaysOpen(dialog));
       abort = 1;
       time.start();
     };
