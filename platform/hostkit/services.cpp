@@ -14,7 +14,7 @@ std::uint32_t MachineTimer::Now() const {
   return static_cast<std::uint32_t>(GetTickCount64());
 }
 
-// The difference is taken modulo 2^32, so that a wrap between the two times does no harm.
+// Unsigned arithmetic: a wrap between the two times does no harm.
 double MachineTimer::Elapsed(std::uint32_t start, std::uint32_t end) const {
   return (end - start) / 1000.0;
 }
@@ -23,7 +23,7 @@ void DecimalNumberHandler::NumberText(std::string& output, std::uint16_t number)
   output = std::to_string(number);
 }
 
-// Drive makers count in powers of ten, so that a drive of "4.00 TB" is the one whose label says 4 TB.
+// Powers of ten, as on the labels of drives: a "4 TB" drive has "4.00 TB".
 void DecimalNumberHandler::SizeText(std::string& output, std::uint64_t bytes) const {
   static constexpr std::array kUnits = {"B", "kB", "MB", "GB", "TB", "PB", "EB"};
   if (bytes < 1000) {
@@ -47,7 +47,7 @@ void DecimalNumberHandler::SizeText(std::string& output, std::uint64_t bytes) co
 
 }  // namespace hostkit
 
-// The objects are made on first use and never destroyed: a caller may hold them until the process ends.
+// The objects are created on first use and never destroyed: callers may use them until the process ends.
 
 StringHandler* get_string_handler() {
   return OwnStringHandler();

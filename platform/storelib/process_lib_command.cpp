@@ -9,8 +9,7 @@ namespace simulation = orvik::simulation;
 
 namespace {
 
-// The block that a packet names. It lies in the caller's memory, so its address is all there is to go by; nowhere
-// else do bytes of a packet become a pointer.
+// The packet's data block in the caller's memory. The only place where bytes of a packet become a pointer.
 std::span<std::uint8_t> DataBlock(std::span<const std::uint8_t> packet) {
   const std::uint64_t address = Get(packet, simulation::command_packet::kDataAddress);
   if (address == 0) return {};

@@ -1,5 +1,5 @@
-// Formatted output, conversion and time of the Windows runtime library's bounded functions. A call that breaks their
-// rules returns its error code and does not end the program.
+// Formatted output, conversion and time as in the Windows runtime library's bounded functions. An invalid call
+// returns an error code instead of ending the program.
 
 #include <windows.h>
 
@@ -19,8 +19,8 @@ errno_t Report(errno_t error) {
   return error;
 }
 
-// What wcstombs_s and mbstowcs_s have in common. In the "C" locale a byte and a wide character of the same value
-// stand for each other.
+// The common part of wcstombs_s and mbstowcs_s. In the "C" locale a byte converts to the wide character of the same
+// value and back.
 template <typename To, typename From>
 errno_t Convert(std::size_t* converted, To* destination, std::size_t size, const From* source, std::size_t count) {
   if ((destination == nullptr) != (size == 0)) return Report(EINVAL);

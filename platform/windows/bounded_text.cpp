@@ -1,4 +1,4 @@
-// Copying, appending and splitting of zero-terminated texts as the Windows runtime library's bounded functions do.
+// Copying, appending and splitting of zero-terminated texts as in the Windows runtime library's bounded functions.
 
 #include <windows.h>
 
@@ -13,7 +13,7 @@ errno_t Report(errno_t error) {
   return error;
 }
 
-// Puts at most `count` characters of `source` and a zero byte at position `used` of the destination.
+// Writes at most `count` characters of `source` and a zero byte to position `used` of the destination.
 errno_t Put(char* destination, std::size_t size, std::size_t used, const char* source, std::size_t count) {
   const std::size_t room = size - used;
   const std::size_t length = strnlen(source, std::min(count, room));

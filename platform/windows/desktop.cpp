@@ -1,4 +1,4 @@
-// The user's session: how it looks, which colours it has, and what programs do to its keyboard and windows.
+// The user's session: its look and colours, and synthetic input and window activation by programs.
 
 #include <windows.h>
 

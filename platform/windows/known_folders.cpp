@@ -19,7 +19,7 @@ namespace simulation = orvik::simulation;
 
 namespace {
 
-// A text that a caller has to release, with the machine that counts it.
+// A text that the caller must release, with the machine that counts it.
 struct TaskMemory {
   windows::WideString text;
   std::shared_ptr<simulation::Machine> machine;

@@ -32,7 +32,7 @@ bool IsVendorLibrary(std::string_view path) {
   return simulation::FoldCase(name) == "storelib.dll";
 }
 
-// On Windows a function may also be looked for by its number, in place of the address of its name.
+// On Windows `name` may also be the function's number.
 bool IsEntryPoint(LPCSTR name) {
   constexpr ULONG_PTR kLargestNumber = 0xFFFF;
   return reinterpret_cast<ULONG_PTR>(name) > kLargestNumber && std::string_view(name) == "ProcessLibCommand";

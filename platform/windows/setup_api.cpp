@@ -29,7 +29,7 @@ HDEVINFO FailToQuery(DWORD error) {
   return INVALID_HANDLE_VALUE;
 }
 
-// The set behind a handle, for a call of `function`; null with the last error set when the call is to fail.
+// The set behind a handle, for a call of `function`; null, with the last error set, when the call must fail.
 std::shared_ptr<windows::DeviceInfoSet> Enter(HDEVINFO handle, std::string_view function) {
   auto set = Sets().Find(handle);
   if (set == nullptr) {

@@ -44,7 +44,7 @@ DWORD_PTR ProcessMask() {
 }  // namespace
 
 HANDLE WINAPI GetCurrentThread() {
-  // The number that the system's pseudo handle has.
+  // The value of the system's pseudo handle.
   return reinterpret_cast<HANDLE>(~ULONG_PTR{1});  // NOLINT(performance-no-int-to-ptr)
 }
 

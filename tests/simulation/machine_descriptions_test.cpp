@@ -18,25 +18,18 @@ namespace {
 // Machine descriptions written down by a test, each loaded through a file of the test's own.
 class MachineDescriptions : public testing::Test {
  protected:
-  ~MachineDescriptions() override { std::filesystem::remove(path); }
+  ~MachineDescriptions() override { std::filesystem::remove(path_); }
 
   std::variant<std::shared_ptr<Machine>, std::string> Load(const std::string& text) {
-    std::ofstream(path, std::ios::binary) << text;
-    return LoadMachine(path);
-  }
-
-  // `count` elements of a list.
-  static std::string Repeated(const std::string& element, std::size_t count) {
-    std::string list = element;
-    while (--count != 0) list += "," + element;
-    return list;
+    std::ofstream(path_, std::ios::binary) << text;
+    return LoadMachine(path_);
   }
 
   // The error without the file name; empty on success.
   std::string Error(const std::string& text) {
     const auto loaded = Load(text);
     const auto* error = std::get_if<std::string>(&loaded);
-    return error != nullptr && error->starts_with(path + ": ") ? error->substr(path.size() + 2) : "";
+    return error != nullptr && error->starts_with(path_ + ": ") ? error->substr(path_.size() + 2) : "";
   }
 
   static std::string Document(const std::string& rest) { return R"({"format": 1, "name": "m", )" + rest + "}"; }
@@ -57,20 +50,19 @@ class MachineDescriptions : public testing::Test {
   static std::string Csmi(const std::string& rest) { return Adapter(R"("csmi": {)" + rest + "}"); }
 
   // Tests may run side by side.
-  const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
-  const std::string path = (std::filesystem::temp_directory_path() / (name + ".json")).string();
+  const std::string name_ = testing::UnitTest::GetInstance()->current_test_info()->name();
+  const std::string path_ = (std::filesystem::temp_directory_path() / (name_ + ".json")).string();
 };
 
 TEST_F(MachineDescriptions, AreRefusedWithPlaceExpectationAndFinding) {
   const std::pair<std::string, std::string> rows[] = {
-      {"", "document: expected an object, found an empty file"},
-      {" \n", "document: expected an object, found an empty file"},
+      {"\n", "document: expected an object, found an empty file"},
       {std::string(1048577, ' '), "document: expected at most 1048576 bytes, found more"},
       {R"({"name": "a", "na\u006de": "b"})", R"(document: expected each key once, found the key "name" again)"},
       {Csmi(
            R"("revision": ["{", "\"", []], "drives": [1, {"a": {"b": [2]}}, {"kind": 1, "c": {"kind": 2}, "kind": 3}])"),
        R"(adapters[1].csmi.drives[2]: expected each key once, found the key "kind" again)"},
-      {Document(R"("physicalDrives": [)" + Repeated("0", 257) + "]"),
+      {Document(R"("physicalDrives": [)" + QByteArray("0,").repeated(256).toStdString() + "0]"),
        "physicalDrives: expected a list of at most 256 elements, found 257 elements"},
       {StorelibDrives(R"({"deviceId": 20, "count": 254,
                           "drive": {"kind": "SATA", "model": "m", "serial": "S001", "sectors": 1}}])"),
@@ -107,10 +99,10 @@ TEST_F(MachineDescriptions, AreRefusedWithPlaceExpectationAndFinding) {
        "found the device id 11"},
   };
   for (const auto& [text, error] : rows) EXPECT_EQ(Error(text), error) << text;
-  std::filesystem::remove(path);
+  std::filesystem::remove(path_);
   // The system's own words follow.
   EXPECT_TRUE(
-      std::get<std::string>(LoadMachine(path)).starts_with(path + ": document: expected a readable file, found"));
+      std::get<std::string>(LoadMachine(path_)).starts_with(path_ + ": document: expected a readable file, found"));
 }
 
 TEST_F(MachineDescriptions, CarryEveryKeyIntoTheMachine) {

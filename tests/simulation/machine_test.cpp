@@ -25,42 +25,42 @@ class Faults : public testing::Test {
     return adapter;
   }
 
-  // Sends RAID information; what comes back is in `packet`.
+  // Sends RAID information; the reply is in `packet_`.
   IoResult Send() {
-    packet = request;
-    return machine.Control(*machine.Adapters()[0], kMiniport, packet, packet.size(), packet.size());
+    packet_ = request_;
+    return machine_.Control(*machine_.Adapters()[0], kMiniport, packet_, packet_.size(), packet_.size());
   }
 
   IoResult SendWith(const FaultEffects& effects) {
-    machine.Faults().Clear();
-    machine.Faults().Add({.operation = "CC_CSMI_SAS_GET_RAID_INFO", .effects = effects});
+    machine_.Faults().Clear();
+    machine_.Faults().Add({.operation = "CC_CSMI_SAS_GET_RAID_INFO", .effects = effects});
     return Send();
   }
 
-  Machine machine{{.adapters = {RaidAdapter()}}};
+  Machine machine_{{.adapters = {RaidAdapter()}}};
   // RAID information, byte by byte.
-  const Bytes request =
+  const Bytes request_ =
       With(With(With(Bytes(128), 0, {28, 0, 0, 0, 'C', 'S', 'M', 'I', 'A', 'R', 'Y'}), 16, {10}), 24, {100});
-  Bytes packet;
+  Bytes packet_;
 };
 
 TEST_F(Faults, DistortWhatComesBack) {
   Send();
-  const Bytes healthy = packet;
+  const Bytes healthy = packet_;
   const Bytes patched = With(With(healthy, 28, Bytes(4, 0xFF)), 126, {1, 2});
   EXPECT_EQ(SendWith({.returnCode = 1001}).returned, 128U);
-  EXPECT_EQ(packet, With(request, 20, {0xE9, 0x03}));
+  EXPECT_EQ(packet_, With(request_, 20, {0xE9, 0x03}));
   EXPECT_EQ(SendWith({.truncateTo = 32}).returned, 32U);
-  EXPECT_EQ(packet, With(request, 0, Bytes(healthy.begin(), healthy.begin() + 32)));
+  EXPECT_EQ(packet_, With(request_, 0, Bytes(healthy.begin(), healthy.begin() + 32)));
   EXPECT_EQ(SendWith({.patches = {{28, {0xFF, 0xFF, 0xFF, 0xFF}}, {126, {1, 2, 3, 4}}}}).returned, 128U);
-  EXPECT_EQ(packet, patched);
+  EXPECT_EQ(packet_, patched);
   SendWith({.garbleSeed = 7});
-  const Bytes garbled = packet;
+  const Bytes garbled = packet_;
   EXPECT_TRUE(std::equal(garbled.begin(), garbled.begin() + 28, healthy.begin())) << "the header stays";
   SendWith({.garbleSeed = 7});
-  EXPECT_EQ(packet, garbled);
+  EXPECT_EQ(packet_, garbled);
   SendWith({.garbleSeed = 8});
-  EXPECT_NE(packet, garbled);
+  EXPECT_NE(packet_, garbled);
 }
 
 }  // namespace

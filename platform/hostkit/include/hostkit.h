@@ -10,7 +10,7 @@
 
 namespace hostkit {
 
-/// Numbers as texts for people.
+/// Formats numbers for people.
 class NumberHandler {
  public:
   NumberHandler() = default;
@@ -47,7 +47,7 @@ class Timer {
   virtual std::uint32_t Now() const = 0;                                     // slot 3: milliseconds, wraps
 };
 
-/// Where things lie.
+/// The installation's folders.
 class FileSystem {
  public:
   FileSystem() = default;

@@ -4,6 +4,6 @@
 
 extern "C" {
 
-/// Releases what a function of the shell handed out; null is nothing.
+/// Releases memory that a shell function allocated; ignores null.
 void WINAPI CoTaskMemFree(LPVOID memory);
 }

@@ -4,7 +4,7 @@
 
 extern "C" {
 
-/// The calling thread's last error. Functions that succeed may leave it as it was.
+/// The calling thread's last error. Functions that succeed may leave it unchanged.
 DWORD WINAPI GetLastError();
 void WINAPI SetLastError(DWORD code);
 }

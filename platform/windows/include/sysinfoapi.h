@@ -4,6 +4,6 @@
 
 extern "C" {
 
-/// Milliseconds since the machine started; the machine's time, which may run faster than a wall clock.
+/// Milliseconds since the machine started, by its own clock, which may run faster than real time.
 ULONGLONG WINAPI GetTickCount64();
 }

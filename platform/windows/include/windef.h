@@ -7,7 +7,6 @@
 
 using BYTE = unsigned char;
 using PBYTE = BYTE*;
-using CHAR = char;
 using WORD = std::uint16_t;
 using DWORD = std::uint32_t;
 using PDWORD = DWORD*;
@@ -48,7 +47,6 @@ static_assert(sizeof(void*) == 8, "the stand-ins follow 64-bit Windows");
 
 inline constexpr BOOL FALSE = 0;
 inline constexpr BOOL TRUE = 1;
-inline constexpr DWORD MAX_PATH = 260;
 
 struct POINT {
   LONG x;

@@ -72,7 +72,7 @@ extern "C" {
 BOOL WINAPI SystemParametersInfoW(UINT action, UINT parameter, PVOID value, UINT profile);
 /// 0x00bbggrr; 0 for an index that has no colour.
 DWORD WINAPI GetSysColor(int index);
-/// How many records were taken in.
+/// The number of accepted records.
 UINT WINAPI SendInput(UINT count, LPINPUT inputs, int size);
 BOOL WINAPI SetForegroundWindow(HWND window);
 HWND WINAPI GetDesktopWindow();
