@@ -115,7 +115,8 @@ void UseDrive(module::storage::Protocol& drive) {
 
 void UseDevice(const std::shared_ptr<RaidDevice>& device) {
   std::vector<StorageDeviceEntry> members;
-  device->GetStorageDevices(members);
+  // A failing list may still hold drives.
+  module::storage::Ignore(module::storage::Status{device->GetStorageDevices(members)});
   for (std::size_t i = 0; i < members.size() && i < kDrivesUsed; ++i) {
     UseDrive(*members[i].protocolObject);
     if (members[i].ataProtocolObject != nullptr) UseDrive(*members[i].ataProtocolObject);

@@ -150,7 +150,8 @@ class Soak {
 
   void UseDrives(module::raid::RaidDevice& device) {
     std::vector<module::raid::StorageDeviceEntry> drives;
-    device.GetStorageDevices(drives);
+    // A failing list may still hold drives.
+    module::storage::Ignore(module::storage::Status{device.GetStorageDevices(drives)});
     for (const auto& entry : drives) {
       for (const auto& drive : {entry.protocolObject, entry.ataProtocolObject}) {
         if (drive != nullptr) UseDrive(*drive);

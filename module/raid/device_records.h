@@ -19,7 +19,7 @@ enum class LogicalDriveState : std::uint32_t { Optimal = 0, Degraded = 1, Failed
 /// How a physical drive is addressed.
 enum class DriveProtocol : std::uint32_t { Ata = 0, Scsi = 1, Unknown = 4, Nvme = 6 };
 
-/// What a controller tells about itself.
+/// What a controller reports about itself.
 struct ControllerInfo {
   std::string serial;  ///< storelib family only
   std::string model;
@@ -45,7 +45,7 @@ struct LogicalDrive {
       failedMembers;  ///< degraded CSMI volume: model, " - ", serial, as the controller pads them
 };
 
-/// One drive behind a controller. Texts stand as the drive gave them, padding included.
+/// One drive behind a controller. Texts are exactly as the drive reports them, padding included.
 struct PhysicalDrive {
   DriveProtocol protocol = DriveProtocol::Unknown;
   std::string manufacturer;
@@ -63,14 +63,14 @@ struct StorageDeviceEntry {
   std::shared_ptr<storage::Protocol> ataProtocolObject;  ///< storelib family only; may be empty
 };
 
-/// The RAID operations of a device, as a host sees them: every device of this module is one. Each returns 0 on
-/// success or a status code; the lists are appended to or replaced, so callers pass fresh ones.
+/// The RAID operations that every device of this module offers to a host. Each returns 0 on success, otherwise a code
+/// of `storage::status`. Pass empty lists: one family appends to them, the other replaces them.
 class RaidDevice : public core::Device {
  public:
-  virtual std::uint32_t GetControllerInfo(ControllerInfo& info) = 0;                      // slot 9
-  virtual std::uint32_t GetLogicalDrives(std::vector<LogicalDrive>& drives) = 0;          // slot 10
-  virtual std::uint32_t GetPhysicalDrives(std::vector<PhysicalDrive>& drives) = 0;        // slot 11
-  virtual std::uint32_t GetStorageDevices(std::vector<StorageDeviceEntry>& devices) = 0;  // slot 12
+  [[nodiscard]] virtual std::uint32_t GetControllerInfo(ControllerInfo& info) = 0;                      // slot 9
+  [[nodiscard]] virtual std::uint32_t GetLogicalDrives(std::vector<LogicalDrive>& drives) = 0;          // slot 10
+  [[nodiscard]] virtual std::uint32_t GetPhysicalDrives(std::vector<PhysicalDrive>& drives) = 0;        // slot 11
+  [[nodiscard]] virtual std::uint32_t GetStorageDevices(std::vector<StorageDeviceEntry>& devices) = 0;  // slot 12
 };
 
 }  // namespace orvik::module::raid

@@ -1,4 +1,6 @@
-// Each operation of a protocol object on each road to a drive.
+// Each operation of a protocol object on each path to a drive.
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
@@ -54,7 +56,7 @@ MachineDescription Drives() {
           .storelib = {.controllers = {lsi}}};
 }
 
-/// What must stay for as long as the drive is used, and the drive.
+/// A drive object and what has to outlive it.
 struct Road {
   std::shared_ptr<module::raid::RaidDevice> device{};
   utils::UniqueHandle handle{};
@@ -65,7 +67,7 @@ template <std::size_t number>
 Road BehindCsmi() {
   Road road{.device = testing::OpenDevice()};
   std::vector<StorageDeviceEntry> members;
-  road.device->GetStorageDevices(members);
+  EXPECT_EQ(road.device->GetStorageDevices(members), 0U);
   road.drive = members.at(number).protocolObject;
   return road;
 }
@@ -74,7 +76,7 @@ template <std::size_t number, auto object>
 Road BehindStorelib() {
   Road road{.device = testing::OpenLsiDevice()};
   std::vector<StorageDeviceEntry> members;
-  road.device->GetStorageDevices(members);
+  EXPECT_EQ(road.device->GetStorageDevices(members), 0U);
   road.drive = members.at(number).*object;
   return road;
 }
@@ -111,7 +113,7 @@ bool IsKnown(Status status) {
   return std::ranges::find(kKnown, status) != std::end(kKnown);
 }
 
-/// The status, and the output: that must stay as it was unless the operation succeeded.
+/// The status and the output, which must not change unless the operation succeeded.
 template <typename Value>
 Answer Told(Status status, Value value, Value before) {
   const bool kept = status == 0 || value == before;
@@ -206,7 +208,7 @@ class DriveScene final : public Scene {
     return answer;
   }
 
-  // A drive object reads the directory of its logs once, and whatever that was stands.
+  // A drive object reads its log directory once and keeps the result, even a wrong one.
   void Forget() override {
     if (operation_.run == GetSelfTestFailingLba) Open();
   }

@@ -30,12 +30,12 @@ class CsmiDevice final : public Device {
  public:
   explicit CsmiDevice(CsmiAdapter adapter);
 
-  std::uint32_t GetControllerInfo(ControllerInfo& info) override;
-  std::uint32_t GetLogicalDrives(std::vector<LogicalDrive>& drives) override;
+  [[nodiscard]] std::uint32_t GetControllerInfo(ControllerInfo& info) override;
+  [[nodiscard]] std::uint32_t GetLogicalDrives(std::vector<LogicalDrive>& drives) override;
   /// Identifies each drive with commands of its own: a scan needs no drive objects, and a drive that fails to
   /// identify is left out.
-  std::uint32_t GetPhysicalDrives(std::vector<PhysicalDrive>& drives) override;
-  std::uint32_t GetStorageDevices(std::vector<StorageDeviceEntry>& devices) override;
+  [[nodiscard]] std::uint32_t GetPhysicalDrives(std::vector<PhysicalDrive>& drives) override;
+  [[nodiscard]] std::uint32_t GetStorageDevices(std::vector<StorageDeviceEntry>& devices) override;
 
   /// Reads the controller's status (one of csmi::controller_status) and why it is offline. Returns kIoctlFailed or
   /// kCsmiReturnCode on failure.

@@ -106,7 +106,7 @@ inline constexpr std::uint32_t kUnspecified = 0x04;
 inline constexpr std::uint32_t kPio = 0x10;
 }  // namespace pass_through
 
-/// What SSP and STP requests have in common: which drive is meant.
+/// The drive's address, common to SSP and STP requests.
 namespace pass_through_address {
 inline constexpr U8 kPhyIdentifier{28};
 inline constexpr U8 kPortIdentifier{29};

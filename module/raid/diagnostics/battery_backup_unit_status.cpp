@@ -34,8 +34,8 @@ TestResult BatteryBackupUnitStatusTest::Run(core::RunArguments& arguments) {
   if (device == nullptr) return TestResult::NotApplicable;
 
   ControllerInfo info;
-  const bool known = device->GetControllerInfo(info) == storage::status::kSuccess;
-  // These two ends are complete before they say why, the later ones after.
+  const bool known = storage::Status{device->GetControllerInfo(info)}.Ok();
+  // These two results report progress 100 before their message, the others after it.
   if (!known || !info.bbuSupported) {
     arguments.reporter->SetProgress(100);
     AddMessage(arguments, known ? MessageType::Info : MessageType::Warning,
@@ -49,7 +49,7 @@ TestResult BatteryBackupUnitStatusTest::Run(core::RunArguments& arguments) {
 
 TestResult BatteryBackupUnitStatusTest::Evaluate(core::RunArguments& arguments, LsiDevice& device) {
   BatteryStatus battery;
-  if (device.GetBatteryStatus(battery) != storage::status::kSuccess) {
+  if (!device.GetBatteryStatus(battery).Ok()) {
     AddMessage(arguments, MessageType::Warning, message::kCannotGetBatteryStatus);
     return TestResult::Warning;
   }

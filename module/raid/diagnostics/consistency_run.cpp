@@ -48,7 +48,8 @@ std::optional<std::uint8_t> TargetOf(const LogicalDrive& drive) {
   return static_cast<std::uint8_t>(static_cast<std::uint64_t>(number) & 0xFF);
 }
 
-/// Why a controller did not start a check.
+/// What to report when a check could not be started, by the library's status. `LsiDevice` returns kFailure for each
+/// of them, so its failures are reported as kOtherFailure; a device that returns the status uses the whole table.
 struct StartFailure {
   storage::Status code;
   const char* key;
@@ -56,14 +57,15 @@ struct StartFailure {
   TestResult result;
 };
 
-constexpr StartFailure kOtherFailure = {0, message::kFailedToSendCommand, &LogicalDrive::name, TestResult::Warning};
+constexpr StartFailure kOtherFailure = {status::kFailure, message::kFailedToSendCommand, &LogicalDrive::name,
+                                        TestResult::Warning};
 
 constexpr std::array<StartFailure, 5> kStartFailures = {{
-    {0x18, message::kSkippedInitialization, &LogicalDrive::name, TestResult::NotApplicable},
-    {0x1B, message::kNotInOptimalState, &LogicalDrive::name, TestResult::Warning},
-    {0x1D, message::kSkippedReconstruction, &LogicalDrive::name, TestResult::NotApplicable},
-    {0x1E, message::kRaidNotSupported, &LogicalDrive::raidLevel, TestResult::NotApplicable},
-    {0x2F, message::kSkippedReserved, &LogicalDrive::name, TestResult::NotApplicable},
+    {storage::Status{0x18}, message::kSkippedInitialization, &LogicalDrive::name, TestResult::NotApplicable},
+    {storage::Status{0x1B}, message::kNotInOptimalState, &LogicalDrive::name, TestResult::Warning},
+    {storage::Status{0x1D}, message::kSkippedReconstruction, &LogicalDrive::name, TestResult::NotApplicable},
+    {storage::Status{0x1E}, message::kRaidNotSupported, &LogicalDrive::raidLevel, TestResult::NotApplicable},
+    {storage::Status{0x2F}, message::kSkippedReserved, &LogicalDrive::name, TestResult::NotApplicable},
 }};
 
 }  // namespace
@@ -100,7 +102,7 @@ TestResult CheckConsistencyTest::ActiveRun::Perform() {
 
 std::optional<TestResult> CheckConsistencyTest::ActiveRun::Prepare() {
   if (CheckAborted(arguments_)) return TestResult::Aborted;
-  const bool listed = device_.GetLogicalDrives(drives_) == status::kSuccess;
+  const bool listed = storage::Status{device_.GetLogicalDrives(drives_)}.Ok();
   if (!listed || drives_.empty()) {
     SetProgress(100);
     Report(listed ? MessageType::Info : MessageType::Notice,
@@ -126,8 +128,8 @@ bool CheckConsistencyTest::ActiveRun::FindRunningChecks() {
     bool running = false;
     double percent = 0;
     const storage::Status code = device_.GetConsistencyCheckProgress(*target, running, percent);
-    if (code != status::kSuccess) known = false;
-    if (code == status::kSuccess && running) running_.push_back(drive);
+    if (!code.Ok()) known = false;
+    if (code.Ok() && running) running_.push_back(drive);
   }
   return known;
 }
@@ -143,7 +145,7 @@ bool CheckConsistencyTest::ActiveRun::AskWhetherToCancel() {
   std::unique_ptr<core::InputInteraction> question =
       std::make_unique<utils::GuiDialogInputInteraction>(&request, "RAID", false, true);
   arguments_.reporter->Ask(question);
-  // The question knows the request, which goes first otherwise.
+  // Destroy the question first: it points to the request.
   question.reset();
   return request.answer == kOkAnswer;
 }
@@ -154,7 +156,7 @@ void CheckConsistencyTest::ActiveRun::CancelRunningChecks() {
     Report(MessageType::Info, message::kCancellingCheck, drive.name);
     const auto target = TargetOf(drive);
     if (!target) return;
-    if (device_.CancelConsistencyCheck(*target, drive.sequenceNumber) == status::kSuccess) continue;
+    if (device_.CancelConsistencyCheck(*target, drive.sequenceNumber).Ok()) continue;
     SetProgress(0);
     Report(MessageType::Warning, message::kCannotCancelCheck, drive.name);
   }
@@ -176,7 +178,7 @@ TestResult CheckConsistencyTest::ActiveRun::HandleDrive(std::size_t index) {
   started_ = true;
   const storage::Status code = CheckDrive(index);
   if (abortedDuringCheck_) return TestResult::Aborted;
-  return code == status::kSuccess ? ReadResult(drive) : ExplainFailure(drive, code);
+  return code.Ok() ? ReadResult(drive) : ExplainFailure(drive, code);
 }
 
 storage::Status CheckConsistencyTest::ActiveRun::CheckDrive(std::size_t index) {
@@ -185,7 +187,7 @@ storage::Status CheckConsistencyTest::ActiveRun::CheckDrive(std::size_t index) {
   const auto target = TargetOf(drive);
   if (!target) return status::kSuccess;
   const storage::Status begun = device_.StartConsistencyCheck(*target, drive.sequenceNumber);
-  if (begun != status::kSuccess) return begun;
+  if (!begun.Ok()) return begun;
   SetProgress(0);
   Report(MessageType::Info, message::kRunningCheck, drive.name);
   return WaitForCheck(index, *target, since);
@@ -205,7 +207,7 @@ storage::Status CheckConsistencyTest::ActiveRun::WaitForCheck(std::size_t index,
     if (get_timer()->Elapsed(since, get_timer()->Now()) < kSecondsBetweenReadings) continue;
     const storage::Status code = ReadProgress(index, target, reading);
     since = get_timer()->Now();
-    if (code != status::kSuccess) return code;
+    if (!code.Ok()) return code;
   }
   return status::kSuccess;
 }
@@ -213,7 +215,7 @@ storage::Status CheckConsistencyTest::ActiveRun::WaitForCheck(std::size_t index,
 storage::Status CheckConsistencyTest::ActiveRun::ReadProgress(std::size_t index, std::uint8_t target,
                                                               Reading& reading) {
   const storage::Status code = device_.GetConsistencyCheckProgress(target, reading.running, reading.percent);
-  if (code != status::kSuccess) {
+  if (!code.Ok()) {
     Report(MessageType::Warning, message::kErrorRetrievingProgress);
     return reading.failuresInARow++ < kToleratedFailures ? status::kSuccess : code;
   }
@@ -230,7 +232,7 @@ TestResult CheckConsistencyTest::ActiveRun::ReadResult(const LogicalDrive& drive
   const auto target = TargetOf(drive);
   if (!target) return TestResult::Aborted;
   bool consistent = false;
-  if (device_.GetConsistencyCheckResult(*target, drive.sequenceNumber, consistent) != status::kSuccess) {
+  if (!device_.GetConsistencyCheckResult(*target, drive.sequenceNumber, consistent).Ok()) {
     Report(MessageType::Error, message::kCannotGetCheckResult, drive.name);
     return TestResult::Warning;
   }

@@ -19,22 +19,23 @@ class CheckConsistencyTest::ActiveRun {
   core::TestResult Perform();
 
  private:
-  /// What a progress reading left behind.
+  /// The state after a progress reading.
   struct Reading {
     bool running = true;
     double percent = 0;
     int failuresInARow = 0;
   };
 
-  /// A result when the run ends before any drive is looked at.
+  /// Returns a result when the run ends before any drive is checked.
   std::optional<core::TestResult> Prepare();
-  /// False when it is not known of every drive.
+  /// Returns false unless every drive could be queried.
   bool FindRunningChecks();
   bool AskWhetherToCancel();
   void CancelRunningChecks();
 
   core::TestResult HandleDrive(std::size_t index);
-  /// 0 when the check ran to its end, was cancelled, or never began for want of a drive number.
+  /// Returns kSuccess when the check ended or was cancelled, and when it could not start because the drive's name is
+  /// not a number.
   storage::Status CheckDrive(std::size_t index);
   storage::Status WaitForCheck(std::size_t index, std::uint8_t target, std::uint32_t since);
   storage::Status ReadProgress(std::size_t index, std::uint8_t target, Reading& reading);
@@ -46,7 +47,7 @@ class CheckConsistencyTest::ActiveRun {
     AddMessage(arguments_, type, key, value);
   }
   void SetProgress(double percent) const { arguments_.reporter->SetProgress(static_cast<std::uint8_t>(percent)); }
-  /// The share of the progress bar that the drives up to `index` take.
+  /// The progress, in percent, before the drive at `index`.
   double DonePercent(std::size_t index) const { return static_cast<double>(index) * step_; }
 
   LsiDevice& device_;
@@ -60,7 +61,7 @@ class CheckConsistencyTest::ActiveRun {
   double step_ = 100;
 };
 
-/// How the result of a run changes when a further drive ends with `drive`.
+/// The result of a run after a further drive ended with `drive`.
 core::TestResult MergeResults(core::TestResult run, core::TestResult drive);
 
 }  // namespace orvik::module::raid

@@ -9,8 +9,8 @@
 
 namespace legacy {
 
-/// A host's test context over the arguments of a run (not owned, may be null): it knows only whether the run was
-/// aborted. `IsAborted` may be called from any thread.
+/// A host's test context over the arguments of a run (not owned, may be null): it reports only whether the run
+/// was aborted. `IsAborted` may be called from any thread.
 class ContextAdapter final : public TestContext {
  public:
   explicit ContextAdapter(const orvik::core::RunArguments* arguments) : arguments_(arguments) {}

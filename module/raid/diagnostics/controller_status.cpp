@@ -20,7 +20,7 @@ TestResult ControllerStatusTest::Run(core::RunArguments& arguments) {
 
   std::uint32_t status = 0;
   std::uint32_t offlineReason = 0;
-  const bool known = device->GetControllerStatus(status, offlineReason) == storage::status::kSuccess;
+  const bool known = device->GetControllerStatus(status, offlineReason).Ok();
   const TestResult result = known ? Evaluate(arguments, status) : TestResult::NotApplicable;
   arguments.reporter->SetProgress(100);
   return result;

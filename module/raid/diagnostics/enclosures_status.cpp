@@ -23,9 +23,7 @@ TestResult EnclosuresStatusTest::Run(core::RunArguments& arguments) {
   const auto device = std::dynamic_pointer_cast<LsiDevice>(anyDevice);
   if (device == nullptr) return notApplicable(message::kDeviceNotIdentified);
   std::vector<EnclosureInfo> enclosures;
-  if (device->GetEnclosures(enclosures) != storage::status::kSuccess) {
-    return notApplicable(message::kCannotGetEnclosures);
-  }
+  if (!device->GetEnclosures(enclosures).Ok()) return notApplicable(message::kCannotGetEnclosures);
   if (enclosures.empty()) return notApplicable(message::kNoEnclosures);
   return Evaluate(arguments, enclosures);
 }
@@ -38,7 +36,7 @@ TestResult EnclosuresStatusTest::Evaluate(core::RunArguments& arguments,
       result = TestResult::Failed;
       std::string number;
       get_number_handler()->NumberText(number, enclosure.enclosureId);
-      // A blank and no colon: this key is a word of its own for translators.
+      // A blank instead of the usual colon, on purpose: translation files have the key alone.
       AddMessage(arguments, MessageType::Error, std::string(message::kFaultyEnclosure) + " " + number);
     }
     if (CheckAborted(arguments)) return TestResult::Aborted;

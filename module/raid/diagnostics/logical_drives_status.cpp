@@ -30,12 +30,13 @@ TestResult LogicalDrivesStatusTest::Run(core::RunArguments& arguments) {
 }
 
 TestResult LogicalDrivesStatusTest::Evaluate(core::RunArguments& arguments) {
-  // The device comes before the abort check here: a foreign device is not applicable even in an aborted run.
+  // Unlike in the other tests the device comes before the abort check: a device of the other family is not applicable
+  // even in an aborted run.
   const auto device = std::dynamic_pointer_cast<LsiDevice>(arguments.device.lock());
   if (device == nullptr) return TestResult::NotApplicable;
   if (CheckAborted(arguments)) return TestResult::Aborted;
   std::vector<LogicalDrive> drives;
-  const bool listed = device->GetLogicalDrives(drives) == storage::status::kSuccess;
+  const bool listed = storage::Status{device->GetLogicalDrives(drives)}.Ok();
   if (!listed || drives.empty()) return TestResult::NotApplicable;
 
   TestResult result = TestResult::Passed;

@@ -1,6 +1,6 @@
 #pragma once
 
-// The vocabulary of the host's translation files, as far as the tests of this folder use it.
+// The keys of the host's translation files that the RAID tests use.
 
 namespace orvik::module::raid::message {
 

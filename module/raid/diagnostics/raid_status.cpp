@@ -9,7 +9,7 @@ namespace {
 using core::MessageType;
 using core::TestResult;
 
-/// What the whole run says once a further drive said `drive`: a warning stays, and of the others the last one counts.
+/// The run's result after a further drive: a warning is kept, otherwise the last drive decides.
 TestResult Merge(TestResult run, TestResult drive) {
   return run == TestResult::Warning ? run : drive;
 }
@@ -22,7 +22,7 @@ TestResult RaidStatusTest::Run(core::RunArguments& arguments) {
   if (anyDevice == nullptr) return TestResult::Invalid;
   const auto device = std::dynamic_pointer_cast<CsmiDevice>(anyDevice);
 
-  // Every early end is complete before it says why.
+  // Every early result reports progress 100 before its messages.
   const auto endWith = [&arguments](TestResult result, MessageType type, std::initializer_list<const char*> keys) {
     arguments.reporter->SetProgress(100);
     for (const char* const key : keys) AddMessage(arguments, type, key);
@@ -32,7 +32,7 @@ TestResult RaidStatusTest::Run(core::RunArguments& arguments) {
     return endWith(TestResult::NotApplicable, MessageType::Notice, {message::kDeviceNotIdentified});
   }
   ControllerInfo info;
-  if (device->GetControllerInfo(info) != storage::status::kSuccess) {
+  if (!storage::Status{device->GetControllerInfo(info)}.Ok()) {
     return endWith(TestResult::Aborted, MessageType::Info, {message::kUnableToRetrieveProperties});
   }
   if (info.platform == kCapabilitiesNotFound) {
@@ -40,7 +40,7 @@ TestResult RaidStatusTest::Run(core::RunArguments& arguments) {
                    {message::kUnableToCommunicate, message::kSataModeNotRaid});
   }
   std::vector<LogicalDrive> drives;
-  if (device->GetLogicalDrives(drives) != storage::status::kSuccess) {
+  if (!storage::Status{device->GetLogicalDrives(drives)}.Ok()) {
     return endWith(TestResult::Aborted, MessageType::Info, {message::kCannotGetLogicalDrives});
   }
   if (drives.empty()) return endWith(TestResult::NotApplicable, MessageType::Info, {message::kNoLogicalDrive});

@@ -12,7 +12,7 @@ namespace {
 
 constexpr char kTranslationContext[] = "RAID";
 
-// Bits 0, 1, 3, 5, 6 and 7: the system events that spoil an outcome.
+// The system events that could change an outcome: bits 0, 1, 3, 5, 6 and 7.
 constexpr std::uint32_t kSpoilingEvents = 0xEB;
 
 constexpr std::uint32_t kQuickGroup = 1;

@@ -7,18 +7,18 @@
 
 namespace orvik::module::raid {
 
-/// What the RAID tests have in common. `Run` executes on a worker thread and reports from there; the abort flag is
-/// looked at only where a test says so.
+/// Base of the RAID tests. `Run` executes on a worker thread and reports from there; it checks the abort flag only
+/// where it calls `CheckAborted`.
 class RaidAbstractTest : public core::Test {
  public:
   using core::Test::Test;
 
  protected:
-  /// The run is to stop: the host set the abort flag, or a system event that spoils the outcome has happened (which
-  /// adds a message). Reports progress 100 then.
+  /// Whether the run must stop: the host set the abort flag, or a system event occurred that could change the outcome
+  /// (which adds a message). If so, reports progress 100.
   static bool CheckAborted(core::RunArguments& arguments);
 
-  /// The key in the user's language, as UTF-8.
+  /// Translates the key into the user's language; UTF-8.
   static std::string Translate(const char* key);
 
   static void AddMessage(core::RunArguments& arguments, core::MessageType type, std::string text);
@@ -27,7 +27,7 @@ class RaidAbstractTest : public core::Test {
                          const std::string& value);
 };
 
-/// A test that lasts a moment, may run beside any other and is meant for the devices of one controller family.
+/// A short test for the devices of one controller family; may run alongside any other test.
 template <typename Family>
 class QuickRaidTest : public RaidAbstractTest {
  public:

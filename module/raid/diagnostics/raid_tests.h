@@ -8,7 +8,8 @@
 
 namespace orvik::module::raid {
 
-/// The state of every logical drive of a CSMI controller: one message per drive, and a warning when one needs care.
+/// Checks the state of every logical drive of a CSMI controller: one message per drive, a warning if any needs
+/// attention.
 class RaidStatusTest final : public QuickRaidTest<CsmiDevice> {
  public:
   RaidStatusTest() : QuickRaidTest(QuickDescriptor(5, "RAID_STATUS_TEST")) {}

@@ -8,7 +8,7 @@ namespace orvik::module::raid {
 namespace {
 
 core::DeviceDescription Describe(const core::Device& device) {
-  // The managers make nothing but RAID devices.
+  // The managers make RAID devices only.
   const auto& raidDevice = static_cast<const Device&>(device);
   return {.id = device.GetId(),
           .udi = device.GetUdi(),

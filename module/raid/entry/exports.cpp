@@ -5,7 +5,8 @@
 
 extern "C" {
 
-/// A new module object; null when there is no memory for it. What its construction throws goes to the caller.
+/// Returns a new module object, or null when there is no memory for it. Exceptions of its constructor reach the
+/// caller.
 orvik::core::Module* CreateModuleInstance();
 
 /// Destroys a module object that `CreateModuleInstance` returned; null is ignored.

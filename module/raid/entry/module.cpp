@@ -11,7 +11,7 @@ namespace {
 
 const core::ModuleVersion kVersion = {.major = 5, .minor = 2, .patch = 0, .suffix = {}};
 
-// The host's process-wide set: the module only empties it. The mutex goes first at unload.
+// The host's process-wide set: the module only empties it.
 std::set<std::string> stringSet;
 std::mutex stringSetMutex;
 

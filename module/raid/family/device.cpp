@@ -33,15 +33,15 @@ std::string SizeText(std::uint64_t bytes) {
 
 storage::Status Device::BuildProperties() {
   resources_.clear();
-  if (GetControllerInfo(controllerInfo_) == storage::status::kSuccess) AddControllerProperties();
+  if (storage::Status{GetControllerInfo(controllerInfo_)}.Ok()) AddControllerProperties();
 
   std::vector<LogicalDrive> logicalDrives;
-  const bool listed = GetLogicalDrives(logicalDrives) == storage::status::kSuccess;
+  const bool listed = storage::Status{GetLogicalDrives(logicalDrives)}.Ok();
   if (listed && controllerInfo_.logicalDriveCount > 0) AddLogicalDisks(logicalDrives);
 
   std::vector<PhysicalDrive> physicalDrives;
-  const storage::Status result = GetPhysicalDrives(physicalDrives);
-  if (result == storage::status::kSuccess) {
+  const storage::Status result{GetPhysicalDrives(physicalDrives)};
+  if (result.Ok()) {
     const std::size_t count = physicalDrives.size();
     AddPhysicalDisks(std::move(physicalDrives));
     properties_.emplace_back("NUM_PHYSICAL_DEVICES", std::to_string(count));

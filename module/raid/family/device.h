@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/key_value.h"
+#include "core/device.h"
 #include "module/raid/device_records.h"
 #include "module/storage/status.h"
 

@@ -18,7 +18,7 @@ std::optional<WideString> RegistryText(const WideString& key, const WCHAR* value
   if (RegGetValueW(HKEY_LOCAL_MACHINE, key.c_str(), value, RRF_RT_REG_SZ, nullptr, nullptr, &size) != ERROR_SUCCESS) {
     return std::nullopt;
   }
-  // One unit more than asked for, so that the text ends whatever the call leaves in the buffer.
+  // One unit more than reported, so that the text is always terminated.
   std::vector<WCHAR> text(size / sizeof(WCHAR) + 1);
   if (RegGetValueW(HKEY_LOCAL_MACHINE, key.c_str(), value, RRF_RT_REG_SZ, nullptr, text.data(), &size) !=
       ERROR_SUCCESS) {

@@ -12,9 +12,9 @@ namespace orvik::module::raid {
 inline constexpr GUID kScsiAdapterClass = {
     0x4D36E97B, 0xE325, 0x11CE, {0xBF, 0xC1, 0x08, 0x00, 0x2B, 0xE1, 0x03, 0x18}};
 
-/// The version of the first installed SCSI adapter driver whose provider is not "Microsoft". 0; 1 when the instance
-/// id of an adapter can't be read; 128 when there is no such driver. An adapter without the registry values is passed
-/// over.
+/// Reads the version of the first installed SCSI adapter driver whose provider is not "Microsoft". Returns kFailure
+/// when the instance id of an adapter can't be read, and kNoVendorDriver when there is no such driver. Skips an
+/// adapter without the registry values.
 storage::Status ReadDriverVersion(std::string& version);
 
 }  // namespace orvik::module::raid

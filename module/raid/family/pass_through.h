@@ -1,6 +1,6 @@
 #pragma once
 
-// What both controller families share when they carry a drive's commands in packets of their own.
+// The parts of pass-through packets that both controller families share.
 
 #include <cstddef>
 #include <cstdint>

@@ -28,12 +28,12 @@ class LsiDevice final : public Device {
  public:
   LsiDevice(std::uint32_t id, std::shared_ptr<LsiSender> librarySender);
 
-  std::uint32_t GetControllerInfo(ControllerInfo& info) override;
+  [[nodiscard]] std::uint32_t GetControllerInfo(ControllerInfo& info) override;
   /// Empties the list first. A drive whose own commands fail is left out.
-  std::uint32_t GetLogicalDrives(std::vector<LogicalDrive>& drives) override;
+  [[nodiscard]] std::uint32_t GetLogicalDrives(std::vector<LogicalDrive>& drives) override;
   /// Empties the list first. A drive whose own command fails is left out; the result is that of the last drive.
-  std::uint32_t GetPhysicalDrives(std::vector<PhysicalDrive>& drives) override;
-  std::uint32_t GetStorageDevices(std::vector<StorageDeviceEntry>& devices) override;
+  [[nodiscard]] std::uint32_t GetPhysicalDrives(std::vector<PhysicalDrive>& drives) override;
+  [[nodiscard]] std::uint32_t GetStorageDevices(std::vector<StorageDeviceEntry>& devices) override;
 
   storage::Status GetBatteryStatus(BatteryStatus& battery);
   /// Appends to the list.

@@ -17,12 +17,12 @@ using utils::Le32;
 using utils::Le64;
 using utils::U8;
 
-/// What `ProcessLibCommand` takes.
+/// The argument of `ProcessLibCommand`.
 namespace packet {
 inline constexpr U8 kType{0};
 inline constexpr U8 kCommand{1};
 inline constexpr Le32 kControllerId{4};
-inline constexpr Le16 kDeviceId{8};  // a logical drive's sequence number stands in the same place
+inline constexpr Le16 kDeviceId{8};  // at the same offset as kSequenceNumber
 inline constexpr Le16 kSequenceNumber{8};
 inline constexpr U8 kTargetId{10};
 inline constexpr Le32 kDataSize{28};

@@ -12,7 +12,7 @@ struct BitName {
   const char* name;
 };
 
-// In the order in which people expect them, which is not that of the bits.
+// In display order, which is not the order of the bits.
 constexpr std::array<BitName, 7> kRaidLevels = {{
     {0x01, "RAID 0"},
     {0x02, "RAID 1"},
@@ -31,7 +31,7 @@ constexpr std::array<BitName, 5> kInterfaces = {{
     {0x01, "SPI"},
 }};
 
-// A secondary level of 3 stripes over several drives of the primary level.
+// The secondary level of a drive that stripes over several sets of its primary level.
 constexpr std::uint8_t kSpanned = 3;
 
 struct LevelName {

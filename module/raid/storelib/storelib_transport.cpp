@@ -64,8 +64,8 @@ LsiSender::LsiSender() : library_(std::string(get_filesystem()->LibraryDirectory
 }
 
 LsiSender::~LsiSender() {
-  // The library is unloaded whether or not it closes cleanly.
   LsiCommand close(lsi::code::kClose);
+  // The library is unloaded whether or not it closes cleanly.
   static_cast<void>(SendCommand(close));
 }
 

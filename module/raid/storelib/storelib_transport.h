@@ -75,7 +75,7 @@ class LsiSender {
   ~LsiSender();
 
   /// Returns the library's own status, 0 for success.
-  std::uint32_t SendCommand(LsiCommand& command) const;
+  [[nodiscard]] std::uint32_t SendCommand(LsiCommand& command) const;
 
  private:
   using ProcessLibCommand = std::uint32_t(void* packet);

@@ -1,4 +1,4 @@
-// One module under the weight of many hosts at once.
+// One module, used by many hosts at once.
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ using core::DispatchRequest;
 
 using FunctionTask = core::Task<std::function<void()>>;
 
-/// Four controllers, two of each family; a check on the second family's drives goes on until it is aborted.
+/// Four controllers, two of each family; checks on storelib drives run until they are aborted.
 std::shared_ptr<simulation::Machine> InstallFourControllers() {
   simulation::MachineDescription description{.adapters = {Mirror(), Controller(3, {}, "282A", 24)}};
   for (const std::uint32_t id : {3U, 4U}) {
@@ -48,7 +48,7 @@ class ThreadsTest : public ::testing::Test {
     for (const auto& device : devices_) running_[device.lock()->GetId()] = 0;
   }
 
-  /// Reserves a device for one run, lets a worker do it while the abort flag goes up at some time, and waits for it.
+  /// Runs a random test on a random device, may abort it, and waits for its end.
   void RunSomething(std::minstd_rand& random) {
     const std::weak_ptr<core::Device> device = devices_[random() % devices_.size()];
     const core::TestId id = static_cast<core::TestId>(random() % 6) + 1;
@@ -67,11 +67,11 @@ class ThreadsTest : public ::testing::Test {
       EXPECT_EQ(++inUse, 1) << "two runs on one device";
       result = recorder.Run(*test, device.lock());
       std::vector<StorageDeviceEntry> drives;
-      std::static_pointer_cast<Device>(device.lock())->GetStorageDevices(drives);
+      EXPECT_EQ(std::static_pointer_cast<Device>(device.lock())->GetStorageDevices(drives), 0U);
       --inUse;
       done->set_value();
     }));
-    // A consistency check ends in no other way.
+    // A consistency check ends only when aborted.
     const bool aborts = id == 4 || random() % 2 == 0;
     if (aborts) {
       std::this_thread::sleep_for(std::chrono::microseconds(random() % 3000));
@@ -94,12 +94,12 @@ class ThreadsTest : public ::testing::Test {
 
   std::shared_ptr<simulation::Machine> machine_;
   std::unique_ptr<Module> module_;
-  /// The module's own has no more workers than this machine lets it have.
+  /// The module's own dispatcher has only as many workers as this machine has cores.
   std::shared_ptr<core::DiagnosticDispatcher> dispatcher_ =
       std::make_shared<utils::GeneralDiagnosticDispatcher>(kHosts);
   std::vector<std::weak_ptr<core::Device>> devices_;
   std::map<std::string, std::atomic<int>> running_;
-  std::mutex book_;  // the hosts' own: the module has none for its reservations
+  std::mutex book_;  // guards the module's reservations, which it leaves to its host
   std::atomic<int> finished_ = 0;
 };
 

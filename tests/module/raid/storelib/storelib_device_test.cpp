@@ -1,4 +1,4 @@
-// Storelib controllers of a simulated machine: the library's life, what a controller tells, its member drives.
+// Storelib controllers of a simulated machine: library lifetime, controller information and member drives.
 
 #include <gtest/gtest.h>
 
@@ -66,7 +66,7 @@ TEST(LsiSenderTest, IsClosedByItsLastUser) {
   EXPECT_EQ(machine->Storelib().Sessions(), 0U);
 }
 
-TEST(LsiDeviceManagerTest, KeepsTheControllersThatTellTheirDrives) {
+TEST(LsiDeviceManagerTest, KeepsControllersThatListTheirDrives) {
   const auto controller = [](std::uint32_t id) {
     auto description = LsiController();
     description.controllerId = id;
@@ -83,7 +83,7 @@ TEST(LsiDeviceManagerTest, KeepsTheControllersThatTellTheirDrives) {
   ASSERT_EQ(manager.GetDeviceList().size(), 1U);
   EXPECT_EQ(manager.GetDeviceList()[0]->GetId(), "70000");
 
-  // More controllers than the list holds: what is listed is tried, and no more than that.
+  // A count beyond the list is limited to the listed controllers.
   machine->Faults().Add(
       {.operation = "STORELIB_LIST_CONTROLLERS", .effects = {.patches = {{.offset = 0, .bytes = {0xFF, 0xFF}}}}});
   EXPECT_TRUE(manager.HasControllers());
@@ -152,6 +152,7 @@ TEST(LsiDeviceTest, NamesRaidLevels) {
                           {2, 0, "UNKNOWN"},
                           {3, 0, "RAID 3"},
                           {4, 3, "RAID 4"},
+                          {5, 0, "RAID 5"},
                           {5, 3, "RAID 50"},
                           {6, 0, "RAID 6"},
                           {6, 3, "RAID 60"},
@@ -159,10 +160,34 @@ TEST(LsiDeviceTest, NamesRaidLevels) {
                           {255, 3, "UNKNOWN"}}) {
     EXPECT_EQ(RaidLevelName(row.primary, row.secondary), row.name) << int{row.primary} << ' ' << int{row.secondary};
   }
-  std::vector<std::string> names;
-  AppendRaidLevelNames(0xFFFFFFFF, names);
-  EXPECT_EQ(names,
-            (std::vector<std::string>{"RAID 0", "RAID 1", "RAID 10", "RAID 5", "RAID 50", "RAID 6", "RAID 60"}));
+  using Names = std::vector<std::string>;
+  Names all;
+  AppendRaidLevelNames(0xFFFFFFFF, all);
+  EXPECT_EQ(all, (Names{"RAID 0", "RAID 1", "RAID 10", "RAID 5", "RAID 50", "RAID 6", "RAID 60"}));
+  // One bit at a time, from the lowest on; an empty text is a bit without a name.
+  const Names kLevels = {"RAID 0", "RAID 1", "RAID 5", "", "RAID 6", "RAID 10", "RAID 50", "RAID 60"};
+  const Names kInterfaces = {"SPI", "SAS 3G", "SATA 1.5G", "SATA 3G", "SAS 6G", "", "", ""};
+  for (unsigned bit = 0; bit < 8; ++bit) {
+    Names levels;
+    AppendRaidLevelNames(1U << bit, levels);
+    EXPECT_EQ(levels, kLevels[bit].empty() ? Names{} : Names{kLevels[bit]}) << bit;
+    Names interfaces;
+    AppendInterfaceNames(static_cast<std::uint8_t>(1U << bit), interfaces);
+    EXPECT_EQ(interfaces, kInterfaces[bit].empty() ? Names{} : Names{kInterfaces[bit]}) << bit;
+  }
+}
+
+TEST(LsiDeviceTest, NamesTheProtocolOfEachInterface) {
+  using enum DriveProtocol;
+  static constexpr DriveProtocol kProtocols[] = {Unknown, Scsi, Scsi, Ata, Unknown};
+  for (std::uint8_t interface = 0; interface < std::size(kProtocols); ++interface) {
+    const auto machine = InstallLsi();
+    machine->Faults().Add({.operation = "STORELIB_PHYSICAL_DRIVE_INFO",
+                           .effects = {.patches = {{.offset = 401, .bytes = {interface}}}}});
+    std::vector<PhysicalDrive> drives;
+    ASSERT_EQ(OpenLsiDevice()->GetPhysicalDrives(drives), 0U);
+    EXPECT_EQ(drives.at(0).protocol, kProtocols[interface]) << int{interface};
+  }
 }
 
 TEST(LsiDeviceTest, LeavesOutDrivesThatDoNotAnswer) {
@@ -171,25 +196,26 @@ TEST(LsiDeviceTest, LeavesOutDrivesThatDoNotAnswer) {
     std::uint64_t call;
     std::size_t logical;
     std::size_t physical;
-    storage::Status physicalStatus;
+    std::uint32_t logicalCode;
+    std::uint32_t physicalCode;
   };
   for (const Case& row :
-       {Case{"STORELIB_MEMBER_LIST", 1, 1, 2, 0}, Case{"STORELIB_LOGICAL_DRIVE_INFO", 2, 1, 2, 0},
-        Case{"STORELIB_LOGICAL_DRIVE_LIST", 1, 0, 2, 0}, Case{"STORELIB_PHYSICAL_DRIVE_INFO", 1, 2, 1, 0},
-        Case{"STORELIB_PHYSICAL_DRIVE_INFO", 2, 2, 1, 1}, Case{"STORELIB_PHYSICAL_DRIVE_LIST", 1, 2, 0, 1}}) {
+       {Case{"STORELIB_MEMBER_LIST", 1, 1, 2, 0, 0}, Case{"STORELIB_LOGICAL_DRIVE_INFO", 2, 1, 2, 0, 0},
+        Case{"STORELIB_LOGICAL_DRIVE_LIST", 1, 0, 2, 1, 0}, Case{"STORELIB_PHYSICAL_DRIVE_INFO", 1, 2, 1, 0, 0},
+        Case{"STORELIB_PHYSICAL_DRIVE_INFO", 2, 2, 1, 0, 1}, Case{"STORELIB_PHYSICAL_DRIVE_LIST", 1, 2, 0, 0, 1}}) {
     const auto machine = InstallLsi(LsiController({Volume(0), Volume(1)}));
     machine->Faults().Add({.operation = row.operation, .call = row.call, .effects = {.returnCode = 0x80000000}});
     const auto device = OpenLsiDevice();
     std::vector<LogicalDrive> logical(5);
-    device->GetLogicalDrives(logical);
+    EXPECT_EQ(device->GetLogicalDrives(logical), row.logicalCode) << row.operation;
     EXPECT_EQ(logical.size(), row.logical) << row.operation;
     std::vector<PhysicalDrive> physical(5);
-    EXPECT_EQ(device->GetPhysicalDrives(physical), row.physicalStatus) << row.operation;
+    EXPECT_EQ(device->GetPhysicalDrives(physical), row.physicalCode) << row.operation;
     EXPECT_EQ(physical.size(), row.physical) << row.operation;
   }
 }
 
-TEST(LsiDeviceTest, BelievesNoAbsurdCountAndNoEndlessText) {
+TEST(LsiDeviceTest, LimitsCountsAndTextsToTheReply) {
   const auto machine = InstallLsi();
   const auto device = OpenLsiDevice();
   const auto patch = [&machine](const char* operation, std::size_t offset, std::vector<std::uint8_t> bytes) {
@@ -204,10 +230,10 @@ TEST(LsiDeviceTest, BelievesNoAbsurdCountAndNoEndlessText) {
   EXPECT_EQ(device->GetLogicalDrives(logical), 0U);
   EXPECT_EQ(machine->Faults().CallsMade("STORELIB_MEMBER_LIST"), 256U);
   std::vector<PhysicalDrive> physical;
-  device->GetPhysicalDrives(physical);
+  EXPECT_EQ(device->GetPhysicalDrives(physical), 1U) << "the entries beyond the drives don't answer";
   EXPECT_EQ(machine->Faults().CallsMade("STORELIB_PHYSICAL_DRIVE_INFO"), 255U) << "one entry is an enclosure";
   std::vector<EnclosureInfo> enclosures;
-  EXPECT_EQ(device->GetEnclosures(enclosures), 0U);
+  EXPECT_EQ(device->GetEnclosures(enclosures).Code(), 0U);
   EXPECT_EQ(enclosures.size(), 32U);
   ControllerInfo info;
   EXPECT_EQ(device->GetControllerInfo(info), 0U);
@@ -222,22 +248,22 @@ TEST(LsiDeviceTest, FollowsAConsistencyCheck) {
   const auto device = OpenLsiDevice();
   bool running = true;
   double percent = 12;
-  EXPECT_EQ(device->GetConsistencyCheckProgress(5, running, percent), 0U);
+  EXPECT_EQ(device->GetConsistencyCheckProgress(5, running, percent).Code(), 0U);
   EXPECT_FALSE(running);
   EXPECT_EQ(percent, 12);
-  EXPECT_EQ(device->StartConsistencyCheck(5, 0x0104), 1U) << "another sequence number";
-  EXPECT_EQ(device->StartConsistencyCheck(5, 0x0105), 0U);
+  EXPECT_EQ(device->StartConsistencyCheck(5, 0x0104).Code(), 1U) << "another sequence number";
+  EXPECT_EQ(device->StartConsistencyCheck(5, 0x0105).Code(), 0U);
   machine->Clock().Advance(50'000);
-  EXPECT_EQ(device->GetConsistencyCheckProgress(5, running, percent), 0U);
+  EXPECT_EQ(device->GetConsistencyCheckProgress(5, running, percent).Code(), 0U);
   EXPECT_TRUE(running);
   EXPECT_NEAR(percent, 50, 1);
-  EXPECT_EQ(device->CancelConsistencyCheck(5, 0x0105), 0U);
+  EXPECT_EQ(device->CancelConsistencyCheck(5, 0x0105).Code(), 0U);
   bool consistent = false;
-  EXPECT_EQ(device->GetConsistencyCheckResult(5, 0x0105, consistent), 0U);
+  EXPECT_EQ(device->GetConsistencyCheckResult(5, 0x0105, consistent).Code(), 0U);
   EXPECT_TRUE(consistent);
-  EXPECT_EQ(device->StartConsistencyCheck(5, 0x0105), 0U);
+  EXPECT_EQ(device->StartConsistencyCheck(5, 0x0105).Code(), 0U);
   machine->Clock().Advance(100'000);
-  EXPECT_EQ(device->GetConsistencyCheckResult(5, 0x0105, consistent), 0U);
+  EXPECT_EQ(device->GetConsistencyCheckResult(5, 0x0105, consistent).Code(), 0U);
   EXPECT_FALSE(consistent);
 }
 
@@ -281,9 +307,9 @@ TEST(LsiMemberDrivesTest, SilentSataDrivesKeepTheirScsiObject) {
 
 TEST(LsiMemberDrivesTest, BridgesWithoutALibraryFail) {
   storage::ScsiCmd scsi;
-  EXPECT_EQ(LsiSspBridge(1, 2, nullptr).Send(scsi), 1U);
+  EXPECT_EQ(LsiSspBridge(1, 2, nullptr).Send(scsi).Code(), 1U);
   storage::AtaCmd ata;
-  EXPECT_EQ(LsiStpBridge(1, 2, nullptr).Send(ata), 1U);
+  EXPECT_EQ(LsiStpBridge(1, 2, nullptr).Send(ata).Code(), 1U);
 }
 
 }  // namespace
