@@ -86,7 +86,7 @@ TEST(DeviceScannerTest, QualifiesAdapters) {
     bool qualifies;
   };
   for (const Case& row : {
-           Case{"as it is", [](AdapterDescription&) {}, true},
+           Case{"unchanged", [](AdapterDescription&) {}, true},
            Case{"lower-case id",
                 [](AdapterDescription& a) { a.interfaces[0].path = R"(\\?\pci#ven_8086&dev_282a#1#{})"; }, true},
            Case{"table entry in lower case",
@@ -100,6 +100,9 @@ TEST(DeviceScannerTest, QualifiesAdapters) {
            Case{"path too short for the ids",
                 [](AdapterDescription& a) { a.interfaces[0].path = R"(\\?\pci#ven_8086&dev_282)"; }, false},
            Case{"no description", [](AdapterDescription& a) { a.description.reset(); }, false},
+           // The contract's buffer has two bytes a character, too few for this text in UTF-8.
+           Case{"Chinese description",
+                [](AdapterDescription& a) { a.description = "\u78C1\u76D8\u63A7\u5236\u5668"; }, false},
            Case{"not present", [](AdapterDescription& a) { a.present = false; }, false},
            Case{"no interface", [](AdapterDescription& a) { a.interfaces.clear(); }, false},
            Case{"no CSMI", [](AdapterDescription& a) { a.csmi.reset(); }, false},
@@ -117,6 +120,16 @@ TEST(DeviceScannerTest, QualifiesAdapters) {
     EXPECT_EQ(machine->Ledger().OutstandingTotal(), 0U) << row.what;
     EXPECT_EQ(machine->Ledger().InvalidReleases(), 0U) << row.what;
   }
+}
+
+TEST(DeviceScannerTest, LimitsTheDescription) {
+  auto adapter = Mirror();
+  adapter.description = std::string(300, 'C');
+  Install({.adapters = {adapter}});
+  DeviceScanner scanner;
+  const auto found = Scan(scanner)->found;
+  ASSERT_EQ(found.size(), 1U);
+  EXPECT_EQ(found[0].name, std::string(256, 'C'));
 }
 
 TEST(DeviceScannerTest, FindsByExactIdInScanOrder) {
@@ -139,7 +152,7 @@ TEST(DeviceScannerTest, FindsByExactIdInScanOrder) {
   EXPECT_FALSE(scanner.FindDevice("2822").expired());
 }
 
-TEST(DeviceScannerTest, PutsTheCsmiFamilyFirstAndAsksTheOtherOnlyWithoutIt) {
+TEST(DeviceScannerTest, ListsCsmiFirstAndChecksStorelibOnlyWithoutIt) {
   const auto machine = Install({.adapters = {Mirror()}, .storelib = {.controllers = {LsiController()}}});
   const auto recorder = std::make_shared<ScanRecorder>();
   DeviceScanner scanner;
@@ -187,7 +200,7 @@ TEST(DriverVersionTest, TakesTheFirstDriverOfAnotherProvider) {
     }
     const auto machine = Install(description);
     std::string version;
-    EXPECT_EQ(ReadDriverVersion(version), row.code);
+    EXPECT_EQ(ReadDriverVersion(version).Code(), row.code);
     EXPECT_EQ(version, row.version);
     EXPECT_EQ(machine->Ledger().OutstandingTotal(), 0U);
   }

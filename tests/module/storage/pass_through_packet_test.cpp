@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <tuple>
 
-#include "module/raid/csmi/csmi_bridges.h"
-#include "module/raid/family/pass_through.h"
 #include "module/storage/ata/ata_commands.h"
 #include "module/storage/ata/ata_pass_through_packet.h"
 #include "module/storage/nvme/nvme_commands.h"
@@ -114,27 +112,6 @@ TEST(NvmeIntelPacketTest, IsLaidOutAsTheMiniportExpects) {
   Return(packet, 168, {1, 2, 3, 4});
   packet.TakeReply(read);
   EXPECT_EQ(data, (Bytes{1, 2, 3, 4}));
-}
-
-TEST(CsmiBridgesTest, TakeSenseDataAsFarAsItFits) {
-  using Case = std::pair<Bytes, std::uint64_t>;
-  for (const auto& [status, length] :
-       {Case{{2, 2, 18, 0}, 18}, Case{{2, 2, 0xFF, 0xFF}, 32}, Case{{1, 2, 18, 0}, 0}}) {
-    ScsiCmd command;
-    raid::TakeScsiStatus(utils::ByteView(Reply(372, {{101, {9}}, {104, status}, {108, Bytes(256, 0xAA)}})), command);
-    EXPECT_EQ(command.senseLength, length);
-    EXPECT_EQ(command.status, 2);
-    EXPECT_EQ(std::ranges::count(command.sense, 0xAA), length);
-  }
-}
-
-TEST(CsmiBridgesTest, TakeTheRegistersOfTheStatusFis) {
-  AtaCmd command;
-  command.features = 0xAB00;
-  const Bytes fis = {0x34, 0, 0x51, 0x04, 1, 2, 3, 0xE0, 4, 5, 6, 0, 7, 8, 0, 0, 0, 0, 0, 0};
-  raid::TakeAllRegisters(utils::ByteView(fis), command);
-  EXPECT_EQ(Describe(command), "51 f04 n0807 l0401.0502.0603 dE0 no data");
-  EXPECT_EQ(command.features, 0xAB04);
 }
 
 }  // namespace

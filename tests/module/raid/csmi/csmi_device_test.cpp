@@ -76,7 +76,7 @@ TEST(CsmiDeviceTest, NamesTheFailedMemberOfADegradedSet) {
   }
 }
 
-TEST(CsmiDeviceTest, StopsAtTheSetThatTheControllerDoesNotKnow) {
+TEST(CsmiDeviceTest, StopsAtTheFirstSetThatCannotBeRead) {
   const auto sets = std::vector(3, Set(CsmiRaidType::Raid1, CsmiRaidStatus::Ok));
   struct Case {
     FaultEffects effects;
@@ -92,7 +92,7 @@ TEST(CsmiDeviceTest, StopsAtTheSetThatTheControllerDoesNotKnow) {
   }
 }
 
-TEST(CsmiDeviceTest, IdentifiesWhatIsAttached) {
+TEST(CsmiDeviceTest, IdentifiesAttachedDrives) {
   auto adapter = Controller(1, {});
   adapter.csmi->drives.emplace_back(SasDriveDescription{
       .vendor = "ORVIK", .product = "OVS300", .revision = "0001", .serial = "S1", .sectors = 585937500});
@@ -192,6 +192,18 @@ TEST(CsmiDeviceTest, ReportsWhichPacketFailed) {
   }
 }
 
+TEST(CsmiDeviceTest, SearchesForAtMost256NvmeMembers) {
+  const auto set = Set(CsmiRaidType::Raid1, CsmiRaidStatus::Ok);
+  const auto machine = Install({.adapters = {Controller(2, {set, set})}});
+  const auto device = OpenDevice();
+  machine->Faults().Add(Patch("CC_CSMI_SAS_GET_RAID_INFO", 32, {0xFF, 0, 0, 0}));
+  machine->Faults().Add(Patch("CC_CSMI_SAS_GET_RAID_CONFIG", 43, {0xFF}));
+  std::vector<StorageDeviceEntry> members;
+  EXPECT_EQ(device->GetStorageDevices(members), 0U);
+  EXPECT_EQ(members.size(), 2U);
+  EXPECT_EQ(machine->Faults().CallsMade("NVME_PASS_THROUGH"), 256U * 256U) << "a search asks on every path";
+}
+
 TEST(CsmiDeviceTest, AsksForAtMost256Sets) {
   const auto machine = Install({.adapters = {Mirror()}});
   const auto device = OpenDevice();
@@ -203,7 +215,7 @@ TEST(CsmiDeviceTest, AsksForAtMost256Sets) {
   EXPECT_EQ(drives.size(), 256U);
 }
 
-TEST(CsmiDeviceTest, GivesStatusAndReasonOnSuccessOnly) {
+TEST(CsmiDeviceTest, ReturnsStatusAndReasonOnSuccessOnly) {
   auto adapter = Mirror();
   adapter.csmi->status = CsmiStatus::Offline;
   adapter.csmi->offlineReason = CsmiOfflineReason::BusFailure;
@@ -212,9 +224,9 @@ TEST(CsmiDeviceTest, GivesStatusAndReasonOnSuccessOnly) {
   std::uint32_t status = 77;
   std::uint32_t reason = 77;
   machine->Faults().Add({.operation = "CC_CSMI_SAS_GET_CNTLR_STATUS", .call = 1, .effects = {.returnCode = 1}});
-  EXPECT_EQ(device->GetControllerStatus(status, reason), 66U);
+  EXPECT_EQ(device->GetControllerStatus(status, reason).Code(), 66U);
   EXPECT_EQ(status, 77U);
-  EXPECT_EQ(device->GetControllerStatus(status, reason), 0U);
+  EXPECT_EQ(device->GetControllerStatus(status, reason).Code(), 0U);
   EXPECT_EQ(status, 3U);
   EXPECT_EQ(reason, 3U);
 }

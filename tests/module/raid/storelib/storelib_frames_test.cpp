@@ -1,4 +1,4 @@
-// The bytes that go to the vendor's library, and what is believed of those that come back.
+// The bytes sent to the vendor's library, and the limits on those that come back.
 
 #include <gtest/gtest.h>
 
@@ -118,7 +118,7 @@ TEST_F(LsiFramesTest, FrameAtaCommands) {
                         {32, {20}}}));
 }
 
-TEST_F(LsiFramesTest, ScsiRepliesAreTakenAsFarAsTheyFit) {
+TEST_F(LsiFramesTest, LimitScsiRepliesToTheCommand) {
   for (const auto& [reported, packetSize, length] :
        std::vector<std::tuple<std::uint32_t, std::uint32_t, std::size_t>>{
            {36, 100, 36}, {10, 20, 20}, {0xFFFFFFFF, 0xFFFFFFFF, 36}, {36, 0, 36}}) {
@@ -137,6 +137,17 @@ TEST_F(LsiFramesTest, ScsiRepliesAreTakenAsFarAsTheyFit) {
     for (std::size_t i = 0; i < 40; ++i) EXPECT_EQ(buffer_.at(i), i < delivered ? i + 1 : 0) << reported << ' ' << i;
   }
 
+  // The data of a write is the caller's: a reply does not change it.
+  storage::ScsiCmd write = Inquiry();
+  write.direction = storage::Direction::kOut;
+  buffer_.fill(0x5A);
+  LsiCommand written = FrameScsiCommand(7, 1, write);
+  std::ranges::fill(written.DataWriter().Bytes().subspan(64), std::uint8_t{0xEE});
+  written.Writer().Put(lsi::packet::kDataSize, 20);
+  TakeScsiReply(written, false, write);
+  EXPECT_EQ(buffer_.front(), 0x5A);
+  EXPECT_EQ(write.length, 36);
+
   storage::ScsiCmd refused = Inquiry();
   LsiCommand frame = FrameScsiCommand(7, 1, refused);
   for (std::uint8_t i = 0; i < 32; ++i) frame.DataWriter().Put(utils::U8{28U + i}, 0x70 + i);
@@ -146,7 +157,7 @@ TEST_F(LsiFramesTest, ScsiRepliesAreTakenAsFarAsTheyFit) {
   EXPECT_EQ(refused.sense.back(), 0x70 + 31);
 }
 
-TEST_F(LsiFramesTest, AtaRepliesAreTakenAsFarAsTheyFit) {
+TEST_F(LsiFramesTest, LimitAtaRepliesToTheCommand) {
   for (const std::uint32_t reported : {512U, 100U, 0U, 0xFFFFFFFFU}) {
     storage::AtaCmd command = Identify();
     command.features = 0x1100;
