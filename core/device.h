@@ -1,11 +1,13 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "core/key_value.h"
-
 namespace orvik::core {
+
+/// An ordered list of (upper-case key, value) texts: device properties, or one resource of a device.
+using KeyValueList = std::vector<std::pair<std::string, std::string>>;
 
 /// A device that a module found. Its slots are a binary contract: never reorder, insert or overload.
 class Device {
@@ -15,7 +17,7 @@ class Device {
   Device& operator=(const Device&) = delete;
 
   virtual ~Device() = default;                           // slot 0
-  virtual std::string GetId() const = 0;                 // slot 1: what `FindDevice` looks for
+  virtual std::string GetId() const = 0;                 // slot 1: the id that `FindDevice` takes
   virtual std::string GetName() const = 0;               // slot 2: display name
   virtual bool HasUdi() const = 0;                       // slot 3: `GetUdi` is not empty
   virtual std::string GetUdi() const = 0;                // slot 4: unique device identifier

@@ -5,11 +5,10 @@
 #include <vector>
 
 #include "core/device.h"
-#include "core/key_value.h"
 
 namespace orvik::core {
 
-/// What a scan tells the host about one device.
+/// What a scan reports about one device.
 struct DeviceDescription {
   std::string id;
   std::string udi;
@@ -21,7 +20,7 @@ struct DeviceDescription {
   bool testable = false;
 };
 
-/// The host's ear during a scan or a presence check; called on the thread that asked.
+/// Receives the results of a scan or a presence check, on the thread that called the scanner.
 class ScanListener {
  public:
   ScanListener() = default;
@@ -30,7 +29,7 @@ class ScanListener {
 
   virtual ~ScanListener() = default;                                     // slot 0
   virtual void OnDeviceFound(const DeviceDescription& description) = 0;  // slot 1: valid for the call only
-  virtual void ReservedSlot2() {}                                        // slot 2: the host's own business
+  virtual void ReservedSlot2() {}                                        // slot 2: reserved for the host
   virtual void OnScanFinished() = 0;                                     // slot 3
   virtual void OnPresenceChecked(bool present) = 0;                      // slot 4
 };
@@ -44,10 +43,10 @@ class DeviceScanner {
 
   virtual ~DeviceScanner() = default;  // slot 0
 
-  /// Slot 1: looks for devices anew, reports each to the listener, then the end of the scan.
+  /// Slot 1: searches for devices and reports each to the listener, then the end of the scan.
   virtual void Scan(std::shared_ptr<ScanListener> listener) = 0;
 
-  /// Slot 2: tells the listener whether there is any device, without building one.
+  /// Slot 2: reports to the listener whether there is any device, without building one.
   virtual void CheckPresence(std::shared_ptr<ScanListener> listener) = 0;
 
   /// Slot 3: the first device of the last scan with exactly this id; empty when there is none.

@@ -12,7 +12,7 @@ namespace orvik::core {
 /// One planned run, as the dispatcher sees it.
 class DispatchRequest {
  public:
-  /// In this mode a run reserves only its device; in any other it also takes the single exclusive place.
+  /// A run in this mode reserves only its device; in any other it also takes the single exclusive place.
   static constexpr std::int32_t kSharedMode = 1;
   static constexpr std::int32_t kExclusiveMode = 0;
 
@@ -52,7 +52,7 @@ class Task final : public TaskInterface {
   PackagedTask task_;
 };
 
-/// Runs the host's work and keeps the book of reservations. The book takes no lock: the host calls `CanStart`,
+/// Runs the host's work and records which devices are reserved. Reservations take no lock: the host calls `CanStart`,
 /// `NotifyStarted` and `NotifyFinished` from one thread at a time. `Dispatch` may be called from any thread.
 class DiagnosticDispatcher {
  public:
@@ -62,16 +62,16 @@ class DiagnosticDispatcher {
 
   virtual ~DiagnosticDispatcher() = default;  // slot 0
 
-  /// Slot 1: the run's device and, where it wants it, the exclusive place are free.
+  /// Slot 1: whether the run's device and, for an exclusive run, the exclusive place are free.
   virtual bool CanStart(const std::unique_ptr<DispatchRequest>& request) const = 0;
 
-  /// Slot 2: queues work; never waits for it. What the work throws is lost.
+  /// Slot 2: queues work; never waits for it. Exceptions that the work throws are discarded.
   virtual void Dispatch(std::unique_ptr<TaskInterface> task) = 0;
 
   /// Slot 3: releases what `NotifyStarted` reserved.
   virtual void NotifyFinished(const std::unique_ptr<DispatchRequest>& request) = 0;
 
-  /// Slot 4: reserves the run's device and, where it wants it, the exclusive place.
+  /// Slot 4: reserves the run's device and, for an exclusive run, the exclusive place.
   virtual void NotifyStarted(const std::unique_ptr<DispatchRequest>& request) = 0;
 };
 

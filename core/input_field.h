@@ -7,7 +7,7 @@
 /// A further item of a question, laid out below its text.
 class InputField {
  public:
-  /// What `Type` answers for an `InputFieldLabel`; other types are the host's own.
+  /// What `Type` returns for an `InputFieldLabel`; the host defines the other types.
   static constexpr std::uint32_t kLabel = 0;
 
   InputField() = default;

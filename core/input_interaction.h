@@ -35,7 +35,7 @@ class InputRequest {
 
   virtual ~InputRequest() = default;  // slot 0
 
-  std::uint64_t reservedWord = 0;   ///< the host's; neither set nor read by the module
+  std::uint64_t reservedWord = 0;   ///< reserved for the host; neither set nor read by the module
   std::uint32_t answer = 0;         ///< 0 closed without a button, 1 OK, 2 Cancel, 3 Yes, 4 No
   std::string title;                ///< heading above the text
   std::string text;                 ///< the question

@@ -33,7 +33,7 @@ class TestFactory {
   virtual std::unique_ptr<Test> CreateTest(TestId id) const = 0;
 };
 
-/// The one object that a module library hands out. Everything else is reached through it.
+/// The object that a module library exports; everything else is reached through it.
 class Module : public TestFactory {
  public:
   virtual std::int32_t GetTestCount() const = 0;                            // slot 2

@@ -11,7 +11,7 @@
 
 namespace orvik::core {
 
-/// What a run ends with. The values are part of the binary contract.
+/// The outcome of a run. The values are part of the binary contract.
 enum class TestResult : std::uint8_t {
   Invalid = 0,  ///< the device no longer exists
   Passed = 1,
@@ -29,7 +29,7 @@ struct TestMessage {
   std::string text;
 };
 
-/// The host's ear during a run; called on the worker thread that runs the test.
+/// Receives the output of a run, on the worker thread that runs the test.
 class RunReporter {
  public:
   RunReporter() = default;
@@ -52,7 +52,7 @@ struct SystemEventState {
 using AbortFlag = std::atomic<std::uint8_t>;
 static_assert(sizeof(AbortFlag) == 1 && AbortFlag::is_always_lock_free);
 
-/// What the host hands to a run; it outlives the run.
+/// What the host passes to a run; must outlive it.
 struct RunArguments {
   std::weak_ptr<Device> device;
   const AbortFlag* abortFlag = nullptr;

@@ -48,20 +48,20 @@ class Test {
   /// Slot 1: runs the test on the calling thread.
   virtual TestResult Run(RunArguments& arguments) = 0;
 
-  /// Slot 2: at most one run of such a test may be under way, whatever its device.
+  /// Slot 2: whether at most one run of the test may be in progress, across all devices.
   virtual bool IsExclusive() const = 0;
 
-  /// Slot 3: a figure for the host, 6000 for the consistency check and 1 for the quick tests.
+  /// Slot 3: a relative duration, without a unit: long tests return thousands, quick tests 1.
   virtual std::uint32_t GetEstimatedDuration() const = 0;
 
-  /// Slot 4: whether the test is meant for this device. `reserved` is released without being read.
+  /// Slot 4: whether the test applies to this device. `reserved` is released without being read.
   virtual bool IsSupported(const Device& device, std::shared_ptr<void> reserved) const = 0;
 
   const TestDescriptor& Descriptor() const { return descriptor_; }
 
  private:
   TestDescriptor descriptor_;
-  std::vector<std::pair<std::string, std::uint64_t>> hostValues_;  // the host's; starts empty
+  std::vector<std::pair<std::string, std::uint64_t>> hostValues_;  // reserved for the host; starts empty
 };
 
 }  // namespace orvik::core

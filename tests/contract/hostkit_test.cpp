@@ -1,4 +1,4 @@
-// The host's service library through declarations of this test's own: a slot that moved fails here.
+// The host's service library, declared again here so that a slot that moved fails a test.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// The built library, loaded as a host loads it, against simulated machines.
+// The built library, loaded as a host loads it, on simulated machines.
 
 #include <QLibrary>
 
@@ -83,7 +83,7 @@ class ModuleLibraryTest : public testing::Test {
   void (*destroy_)(contract::Module*) = nullptr;
 };
 
-TEST_F(ModuleLibraryTest, TellsWhoItIs) {
+TEST_F(ModuleLibraryTest, IdentifiesItself) {
   InstallMachine(std::make_shared<Machine>());
   destroy_(nullptr);
   contract::Module* const module = create_();
@@ -224,7 +224,7 @@ TEST_F(ModuleLibraryTest, RunsATestOnAWorker) {
   destroy_(module);
 }
 
-TEST_F(ModuleLibraryTest, KeepsTheDeviceForWhoeverHoldsIt) {
+TEST_F(ModuleLibraryTest, KeepsADeviceThatTheHostHolds) {
   const auto machine = InstallMirror();
   contract::Module* const module = create_();
   module->GetScanner()->Scan(std::make_shared<Listener>());

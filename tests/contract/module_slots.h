@@ -1,7 +1,7 @@
 #pragma once
 
-// The module's interfaces in this test's own words: slot by slot as a host of another make would declare them, and
-// nothing from the headers that the library itself was built with. A slot that moved fails a test here.
+// The module's interfaces as another vendor's host would declare them, slot by slot, without the headers that the
+// library was built with. A slot that moved fails a test here.
 
 #include <atomic>
 #include <cstdint>
@@ -122,7 +122,7 @@ struct Arguments {
 struct TestDescriptor {
   std::uint32_t id;
   std::string name, tooltip;
-  std::vector<std::string> parameters;  // always empty, whatever its element
+  std::vector<std::string> parameters;  // always empty, of any element type
   std::string group;
   std::uint32_t groupKind;
   std::string text1, text2;

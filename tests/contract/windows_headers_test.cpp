@@ -7,7 +7,7 @@
 #include <setupapi.h>
 #include <shellscalingapi.h>
 #include <shlobj.h>
-// Needs what comes before it.
+// Needs the headers above.
 #include <ntddscsi.h>
 
 #include <gtest/gtest.h>

@@ -23,7 +23,7 @@ bool FailsNow() {
   ++state.counted;
   if (state.shortage == Shortage::None || state.counted < state.first) return false;
   const Shortage shortage = state.shortage;
-  state.armed = false;  // looking at the callers must not lead back here
+  state.armed = false;  // inspecting the callers allocates too
   const bool fails = !CalledFromOutside();
   state.armed = true;
   if (fails && shortage == Shortage::Once) state.shortage = Shortage::None;
@@ -56,7 +56,7 @@ std::uint64_t AllocationFaults::Counted() {
 
 }  // namespace orvik::sweeps
 
-// All of the unaligned forms: a sanitizer's own ones would not match those that are replaced.
+// Replaces all of the unaligned forms: a sanitizer's remaining ones would not match them.
 void* operator new(std::size_t size) {
   return orvik::sweeps::Allocate(size);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// Memory that runs out: this program's allocation functions can be told to fail.
+// Replaces this program's allocation functions with ones that can fail.
 
 #include <cstdint>
 
@@ -8,8 +8,8 @@ namespace orvik::sweeps {
 
 enum class Shortage : std::uint8_t { None, Once, ForGood };
 
-/// While it lives, the calling thread's allocations are counted from 1, and the one of number `first` fails (with
-/// `ForGood`, every one from there on). Those of the outside are passed over: what runs out is the module's memory.
+/// During its lifetime, counts the calling thread's allocations from 1 and fails number `first` (with `ForGood`,
+/// every one from there on). Skips allocations made outside the module.
 class AllocationFaults {
  public:
   explicit AllocationFaults(Shortage shortage = Shortage::None, std::uint64_t first = 0);

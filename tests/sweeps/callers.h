@@ -2,7 +2,7 @@
 
 namespace orvik::sweeps {
 
-/// Whether the calling code was called by what stands for the outside: the stand-ins, the machine behind them, Qt.
+/// Whether the caller was called from outside the module: by the platform stand-ins, the simulated machine or Qt.
 bool CalledFromOutside();
 
 }  // namespace orvik::sweeps

@@ -2,7 +2,7 @@
 
 namespace orvik::sweeps {
 
-// Each library of Windows has allocation functions of its own, so that none but the program's own code comes here.
+// On Windows each library has its own allocation functions, so only the program's own code gets here.
 bool CalledFromOutside() {
   return false;
 }

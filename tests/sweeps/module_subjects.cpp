@@ -1,4 +1,4 @@
-// What a host does with the module and its devices.
+// What a host can do with the module and its devices.
 
 #include <sstream>
 #include <utility>
@@ -30,7 +30,7 @@ MachineDescription BothFamilies() {
   auto lsi = testing::LsiController({testing::Volume(0), testing::Volume(1, 0)});
   for (auto& drive : lsi.logicalDrives) drive.check.seconds = 1;
   lsi.enclosures = {{.enclosureId = 1}};
-  // Half a minute between two readings of a check's progress passes in microseconds.
+  // The half minute between two progress readings passes in microseconds.
   return {.speed = 1'000'000, .adapters = {other, csmi}, .storelib = {.controllers = {lsi}}};
 }
 
@@ -114,7 +114,7 @@ class MembersScene final : public DeviceScene {
   }
 };
 
-/// Runs a test. The first look for running checks finds one, and the user says that it is to be cancelled.
+/// Runs a test. The first search for running checks finds one, and the user agrees to cancel it.
 class TestScene final : public DeviceScene, private core::RunReporter {
  public:
   TestScene(core::TestId id, const char* deviceId) : DeviceScene(deviceId), test_(module_.CreateTest(id)) {}

@@ -24,8 +24,8 @@ FaultEffects ManyOnes(std::size_t offset, std::size_t count) {
   return {.patches = {{.offset = offset, .bytes = std::vector<std::uint8_t>(count, 0xFF)}}};
 }
 
-// Packets have a header of 28 bytes, which a driver leaves whole; blocks of the vendor's library have none. The
-// counts of both, and the lengths of pass-through replies, are in what is patched.
+// The patches cover the counts and the lengths of replies. A driver does not change a packet's 28-byte header; the
+// blocks of the vendor's library have no header.
 const std::vector<Way>& Ways() {
   static const std::vector<Way> ways = {
       {"error", "*", {.error = 31}},
@@ -48,7 +48,7 @@ const std::vector<Way>& Ways() {
   return ways;
 }
 
-/// The scene has answered a faulty run: it must do better at once and keep nothing.
+/// After a faulty run the same scene must give the healthy answer at once and release everything.
 void ExpectRecovery(std::unique_ptr<Scene> scene, const std::string& healthy) {
   const std::shared_ptr<Machine> machine = scene->machine;
   machine->Faults().Clear();
@@ -69,7 +69,7 @@ void FailOneCall(const MakeScene& make, const Way& way, std::uint64_t call, cons
   ExpectRecovery(std::move(scene), healthy);
 }
 
-// Running out of memory may reach the caller as what it is.
+// A shortage of memory may reach the caller as std::bad_alloc.
 void RunOutOfMemory(const MakeScene& make, Shortage shortage, std::uint64_t first, const std::string& healthy) {
   SCOPED_TRACE(testing::Message() << (shortage == Shortage::Once ? "without memory at " : "without memory from ")
                                   << first);
@@ -84,7 +84,7 @@ void RunOutOfMemory(const MakeScene& make, Shortage shortage, std::uint64_t firs
   ExpectRecovery(std::move(scene), healthy);
 }
 
-/// The healthy answer, and what it takes.
+/// The healthy answer, and the calls and allocations that it takes.
 struct Healthy {
   explicit Healthy(const MakeScene& make) {
     auto scene = make();

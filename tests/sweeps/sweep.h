@@ -8,14 +8,13 @@
 
 namespace orvik::sweeps {
 
-/// What a run came to: everything that its caller was told, as a text; `defined` when it is something that may be
-/// told at all.
+/// The outcome of a run: everything that it returned to its caller, as text, and whether that is a defined result.
 struct Answer {
   bool defined = true;
   std::string text;
 };
 
-/// A machine with what talks to it, ready for one thing to be done any number of times.
+/// A machine and a caller that repeats one action on it any number of times.
 class Scene {
  public:
   explicit Scene(std::shared_ptr<simulation::Machine> itsMachine) : machine(std::move(itsMachine)) {}
@@ -24,7 +23,7 @@ class Scene {
   virtual ~Scene() = default;
 
   virtual Answer Run() = 0;
-  /// Drops what was remembered of earlier answers on purpose, wrong ones included.
+  /// Drops results that are cached on purpose, wrong ones included.
   virtual void Forget() {}
 
   const std::shared_ptr<simulation::Machine> machine;
@@ -33,9 +32,9 @@ class Scene {
 /// Makes a fresh scene on a machine of its own, which it installs.
 using MakeScene = std::function<std::unique_ptr<Scene>()>;
 
-/// Runs the scene with each of its outside calls failing in each way in which it can, and with memory running out at
-/// each of its allocations. Expects a defined answer each time, nothing kept at the end, and the healthy answer
-/// of the same scene right after. Returns the number of failing runs.
+/// Runs the scene with each of its external calls failing in every way it can, and with each of its allocations
+/// failing. Expects a defined answer and no leak each time, and the healthy answer of the same scene right
+/// after. Returns the number of failing runs.
 std::size_t SweepFaults(const MakeScene& make);
 
 }  // namespace orvik::sweeps

@@ -1,5 +1,5 @@
-// Every outside call fails in every way in which it can, and memory runs out: a defined answer, nothing kept, and all
-// is well again afterwards.
+// Fails every external call in every way it can, and every allocation. Expects a defined answer, no leak, and a
+// healthy answer afterwards.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ void Sweep(const std::vector<Subject>& subjects, std::size_t fewestRuns) {
     runs += SweepFaults(subject.make);
     if (testing::Test::HasFailure()) return;
   }
-  // A sweep that hits nothing proves nothing.
+  // Guards against a sweep that injects nothing.
   EXPECT_GE(runs, fewestRuns);
   testing::Test::RecordProperty("runs", static_cast<int>(runs));
 }

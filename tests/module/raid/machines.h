@@ -47,7 +47,7 @@ inline std::shared_ptr<simulation::Machine> Install(const simulation::MachineDes
   return machine;
 }
 
-/// What a scan or a presence check tells the host.
+/// Records what a scan or a presence check reports.
 class ScanRecorder final : public core::ScanListener {
  public:
   void OnDeviceFound(const core::DeviceDescription& description) override { found.push_back(description); }

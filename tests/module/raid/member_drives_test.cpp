@@ -86,7 +86,7 @@ void VerifyPattern(storage::Protocol& drive, std::uint64_t lba, std::uint32_t se
   EXPECT_EQ(read, pattern) << lba;
 }
 
-TEST(MemberDrivesTest, EachHasItsOwnIdEveryTime) {
+TEST(MemberDrivesTest, KeepTheirIdsOnEveryCall) {
   InstallController({Sata(), Sas(), Nvme("N1"), Nvme("N2")});
   const auto device = OpenDevice();
   for (int round = 0; round < 2; ++round) {
@@ -157,7 +157,7 @@ TEST(MemberDrivesTest, AreSearchedForEvenAfterASearchFailed) {
   EXPECT_EQ(properties.serialNumber.substr(0, 2), "N2");
 }
 
-TEST(MemberDrivesTest, ReadBackWhatWasWrittenOnEveryRoad) {
+TEST(MemberDrivesTest, ReadBackWhatWasWrittenOnEveryPath) {
   auto small = Sata();
   small.lba48 = false;
   small.sectors = k28Bits - 1;
@@ -217,7 +217,7 @@ TEST(MemberDrivesTest, ReadNvmeSectorsOfTheirOwnDrive) {
   EXPECT_EQ(members[1].protocolObject->Write(kLba, 2, 0, data.data()), 4U);
 }
 
-TEST(MemberDrivesTest, TellHowTheyAre) {
+TEST(MemberDrivesTest, ReportHealthAndTemperature) {
   auto sata = Sata();
   sata.rotationRate = kSolidState;
   sata.temperatureCelsius = 41;
@@ -256,7 +256,7 @@ TEST(MemberDrivesTest, TellHowTheyAre) {
   }
 }
 
-TEST(MemberDrivesTest, TestThemselves) {
+TEST(MemberDrivesTest, RunSelfTests) {
   auto sata = Sata();
   auto sas = Sas();
   for (const std::optional<std::uint64_t> failingLba : {std::optional<std::uint64_t>(), {123456789}}) {
@@ -289,9 +289,9 @@ TEST(MemberDrivesTest, TestThemselves) {
   }
 }
 
-TEST(MemberDrivesTest, AskTheSystemWhenTheDriveCannotTell) {
+TEST(MemberDrivesTest, FallBackOnTheSystemsFailurePrediction) {
   auto failingDrive = Sas();
-  failingDrive.unsupportedOpcodes = {0x03};  // without REQUEST SENSE the drive's own word is incomplete
+  failingDrive.unsupportedOpcodes = {0x03};  // health needs REQUEST SENSE
   failingDrive.failing = true;
   Install({.physicalDrives = {{.drive = failingDrive}, {.drive = Sata(), .accessDenied = true}}});
   const auto failing = OpenPhysicalDrive(0);

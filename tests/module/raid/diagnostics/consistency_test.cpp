@@ -19,10 +19,10 @@ using namespace orvik::testing;
 using core::TestResult;
 using Texts = std::vector<std::string>;
 
-/// Half a minute passes in milliseconds.
+/// Half a minute of machine time passes in milliseconds.
 constexpr double kSpeed = 10'000;
 
-/// A drive with redundancy whose check takes longer than any test.
+/// A redundant drive whose check outlasts any test.
 StorelibLogicalDriveDescription Redundant(std::uint8_t targetId) {
   auto drive = Volume(targetId, 1);
   drive.check.seconds = 4'000'000;
@@ -47,8 +47,7 @@ StorelibLogicalDriveDescription Inconsistent(std::uint8_t targetId) {
 
 class ConsistencyTest : public ::testing::Test, protected core::RunReporter {
  protected:
-  /// Every check is at 50 percent at its first reading and at its end at the second, unless `FailReadings` was
-  /// called.
+  /// Every check reports 50 percent at its first reading and ends at the second, unless `FailReadings` was called.
   TestResult Run(const std::vector<StorelibLogicalDriveDescription>& drives) {
     machine_ = Install({.speed = kSpeed, .storelib = {.controllers = {LsiController(drives)}}});
     // The first reading of each drive looks for running checks.
@@ -68,7 +67,7 @@ class ConsistencyTest : public ::testing::Test, protected core::RunReporter {
     return Run();
   }
 
-  /// On the machine as it is.
+  /// Runs the test on the current machine.
   TestResult Run() {
     for (const FaultRule& fault : faults_) machine_->Faults().Add(fault);
     const std::shared_ptr<core::Device> device = OpenLsiDevice();
@@ -118,7 +117,7 @@ class ConsistencyTest : public ::testing::Test, protected core::RunReporter {
   bool abortWhileAsking_ = false;
   std::string abortAt_;
   Texts reports_;
-  /// For each reading of the first check but its last: whether it fails. Readings that do not are at 50 percent.
+  /// Whether each reading of the first check but the last fails; the others report 50 percent.
   std::vector<bool> failedReadings_;
 
  private:
@@ -144,7 +143,7 @@ TEST_F(ConsistencyTest, ChecksDrivesWithRedundancyAndSkipsTheOthers) {
   EXPECT_EQ(Calls("STORELIB_CANCEL_CHECK"), 0U);
 }
 
-TEST_F(ConsistencyTest, TellsWhenNothingCanBeChecked) {
+TEST_F(ConsistencyTest, ReportsThatNothingCanBeChecked) {
   EXPECT_EQ(Run({Striped(0)}), TestResult::NotApplicable);
   EXPECT_EQ(reports_,
             (Texts{"100%", "I UNSUPPORTED_RAID_LEVEL_IN_LOGICAL_DRIVE: 0", "I TEST_DOESNT_SUPPORT_RAID_LEVEL: RAID 0",
@@ -183,7 +182,7 @@ TEST_F(ConsistencyTest, CancelsRunningChecksWhenTheUserAgrees) {
                    "I FAILED_TO_SEND_COMMAND_TO_LOGICAL_DRIVE: 2", "100%"}));
 }
 
-TEST_F(ConsistencyTest, ReportsWhatItCannotFindOut) {
+TEST_F(ConsistencyTest, ReportsDrivesThatItCannotVerify) {
   auto refused = Redundant(0);
   refused.check.startStatus = 0x1B;
   FailEvery("STORELIB_CHECK_PROGRESS", 2);
@@ -195,7 +194,7 @@ TEST_F(ConsistencyTest, ReportsWhatItCannotFindOut) {
                    "E CANNOT_GET_CONSISTENCY_CHECK_RESULT: 1", "100%"}));
 }
 
-TEST_F(ConsistencyTest, FiveFailedReadingsInARowAreToleratedASixthIsNot) {
+TEST_F(ConsistencyTest, ToleratesFiveFailedReadingsInARow) {
   const std::string failed = "W ERROR_RETRIEVING_PROGRESS";
   struct Case {
     std::vector<bool> failedReadings;
@@ -217,7 +216,7 @@ TEST_F(ConsistencyTest, FiveFailedReadingsInARowAreToleratedASixthIsNot) {
                                         : "I FAILED_TO_SEND_COMMAND_TO_LOGICAL_DRIVE: 0");
     expected.emplace_back("100%");
     EXPECT_EQ(reports_, expected);
-    EXPECT_TRUE(IsChecking(0)) << "the controller goes on with what nobody waits for";
+    EXPECT_TRUE(IsChecking(0)) << "the controller's check keeps running";
     EXPECT_EQ(Calls("STORELIB_CANCEL_CHECK"), 0U);
   }
 }
@@ -233,7 +232,7 @@ TEST_F(ConsistencyTest, AnAbortCancelsTheCheckAtOnce) {
   EXPECT_EQ(reports_, Texts{"100%"});
 }
 
-TEST_F(ConsistencyTest, AnAbortDuringTheQuestionShowsAtTheNextCheck) {
+TEST_F(ConsistencyTest, ReportsAnAbortDuringTheQuestionAtTheNextCheck) {
   abortWhileAsking_ = true;
   EXPECT_EQ(Run({Checking(0), Redundant(1)}), TestResult::Aborted);
   EXPECT_EQ(reports_, (Texts{"?", "50%", "I IGNORING_LOGICAL_DRIVE_CHECK_CONSISTENCY_ALREADY_RUNNING: 0", "0%",

@@ -83,7 +83,7 @@ TEST(RaidStatusTestTest, NamesFailedMembersAfterTheirDrive) {
   EXPECT_EQ(run.messages[1].substr(0, 37), "Info DRIVE_DOWN: WDC WD10ORVK-08M2NA0");
 }
 
-TEST(RaidStatusTestTest, SaysWhatCouldNotBeRead) {
+TEST(RaidStatusTestTest, ReportsWhatCouldNotBeRead) {
   for (const auto& [packet, message] :
        {std::pair("CC_CSMI_SAS_GET_CNTLR_CONFIG", "Info UNABLE_TO_RETRIEVE_DEVICE_PROPERTIES"),
         std::pair("CC_CSMI_SAS_GET_RAID_CONFIG", "Info CANT_GET_LOGICAL_DRIVES_INFO")}) {
@@ -168,7 +168,7 @@ std::vector<EveryTest> EveryTestOfTheModule() {
   return tests;
 }
 
-TEST(EveryRaidTest, KeepsToDevicesOfItsFamily) {
+TEST(EveryRaidTest, RejectsDevicesOfTheOtherFamily) {
   Install({.adapters = {Mirror()}});
   const std::shared_ptr<core::Device> csmi = OpenDevice();
   const std::shared_ptr<core::Device> other = std::make_shared<LsiDevice>(0, nullptr);

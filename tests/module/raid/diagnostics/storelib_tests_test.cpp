@@ -127,7 +127,7 @@ TEST(BatteryBackupUnitStatusTestTest, DecidesByTheFirstCondition) {
   }
 }
 
-TEST(BatteryBackupUnitStatusTestTest, SaysWhyItCannotTell) {
+TEST(BatteryBackupUnitStatusTestTest, ReportsWhatCouldNotBeRead) {
   auto controller = LsiController();
   controller.batterySupported = false;
   auto machine = InstallLsi(controller);
