@@ -1,5 +1,9 @@
-# 64-bit Windows by Debian's mingw-w64 cross compiler (POSIX threads). ORVIK_QT_WINDOWS names the Qt that
-# scripts/windows/qt.sh built.
+# 64-bit Windows with Debian's mingw-w64 cross compiler (POSIX threads) and the Qt that scripts/windows/qt.sh builds.
+if(NOT EXISTS "$ENV{ORVIK_QT_WINDOWS}/lib/cmake/Qt6")
+  message(FATAL_ERROR "ORVIK_QT_WINDOWS does not name a Qt for Windows. To build one, or find the one built earlier:\n"
+    "  export ORVIK_QT_WINDOWS=$(scripts/windows/qt.sh)")
+endif()
+
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
