@@ -1,9 +1,9 @@
-# orvik_header_only(TARGET FOLDER): a library of headers that Debian puts into /usr/include/FOLDER. For a foreign platform
-# too, which must not see the rest of /usr/include.
+# orvik_header_only(TARGET FOLDER): a header-only library that Debian installs in /usr/include/FOLDER. Cross builds can use
+# it too, without the rest of /usr/include.
 function(orvik_header_only target folder)
   file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/headers")
   if(NOT EXISTS "/usr/include/${folder}")
-    message(FATAL_ERROR "/usr/include/${folder} is missing: scripts/packages.sh build")
+    message(FATAL_ERROR "/usr/include/${folder} is missing; run: scripts/packages.sh build")
   endif()
   file(CREATE_LINK "/usr/include/${folder}" "${PROJECT_BINARY_DIR}/headers/${folder}" SYMBOLIC)
   add_library(${target} INTERFACE IMPORTED GLOBAL)

@@ -5,21 +5,21 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
-# Everything that is loaded or run lies side by side, as it does where the product is installed.
+# Programs and libraries are built into one folder, as in an installation.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 set(CMAKE_BUILD_RPATH "$ORIGIN")
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
-# On Windows the module can be built to meet the simulated machine in the system's place; elsewhere it always does.
-option(ORVIK_SIMULATED "Meet the simulated machine instead of the system's own" ON)
+# Windows builds can use the system's API or the simulated machine; other builds always use the simulated machine.
+option(ORVIK_SIMULATED "Use the simulated machine instead of the system's API" ON)
 if(WIN32)
   set(CMAKE_SHARED_LIBRARY_PREFIX "")
 endif()
 
 option(ORVIK_BENCHMARKS "Build the benchmarks: benchmarks/run.sh" OFF)
 
-# "slots", "signals" and "emit" are plain words here.
+# "slots", "signals" and "emit" are ordinary names here.
 add_compile_definitions(QT_NO_KEYWORDS)
 
 set(ORVIK_SANITIZE "" CACHE STRING "Sanitizers for -fsanitize=, comma separated")
@@ -28,15 +28,15 @@ add_library(orvik_options INTERFACE)
 target_compile_options(orvik_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
   -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough -Werror
-  -Wno-restrict)  # GCC 12 sees overlaps in std::string where there are none
+  -Wno-restrict)  # GCC 12 reports overlaps in std::string that do not exist
 if(ORVIK_SANITIZE)
-  # Host and module know each other's objects by their slots alone, so their types can't be compared.
+  # Host and module share only the layout of virtual tables, so there is no type information to check (vptr).
   target_compile_options(orvik_options INTERFACE
     -fsanitize=${ORVIK_SANITIZE} -fno-sanitize=vptr -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_link_options(orvik_options INTERFACE -fsanitize=${ORVIK_SANITIZE})
 endif()
 
-# What the fuzzers find their way by; the programs add the engine itself (fuzz/CMakeLists.txt).
+# Coverage for the fuzzers; the fuzz programs link the engine itself (fuzz/CMakeLists.txt).
 option(ORVIK_FUZZ "Build the fuzzers in place of the programs and tests; needs clang" OFF)
 if(ORVIK_FUZZ)
   target_compile_options(orvik_options INTERFACE -fsanitize=fuzzer-no-link -Wno-unknown-warning-option
@@ -51,17 +51,17 @@ function(orvik_target name)
   target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
 endfunction()
 
-# The file of a library that hosts load or link by its plain name: no "lib" before it.
+# For a library that hosts load by its plain name, without the prefix "lib".
 function(orvik_plugin_name name)
   set_target_properties(${name} PROPERTIES PREFIX "")
   if(WIN32 AND ORVIK_SIMULATED)
-    # Both variants lie in one folder of an installation.
+    # An installation can have both variants in one folder.
     set_target_properties(${name} PROPERTIES OUTPUT_NAME "${name}_simulated")
   endif()
 endfunction()
 
-# Of a library's symbols only those of the given names are visible where a linker map can say so; what headers of other
-# libraries leave behind is not.
+# Exports only the named symbols of a library, and none that other libraries' headers add. Windows builds do not need
+# this.
 function(orvik_linker_map name)
   if(WIN32)
     return()

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Runs every fuzzer, as many at a time as there are processors, and tells how far each got:
-#   fuzz/run.sh MINUTES     for so many minutes in all
-#   fuzz/run.sh --quick     for one minute in all, from the seeds alone
+# Runs the fuzzers, one per processor at a time, and reports the coverage of each:
+#   fuzz/run.sh MINUTES     for MINUTES in total
+#   fuzz/run.sh --quick     for one minute in total, from the seeds only
 #   fuzz/run.sh ... TARGET  only the named ones
-# What they found interesting stays in build/fuzz/corpus and is where the next run starts from; an input that breaks
-# something lands in build/fuzz/findings, and the program of that target takes its file as an argument.
+# Later runs start from the corpus in build/fuzz/corpus. Inputs that fail are kept in build/fuzz/findings; pass such a
+# file to the target's program to reproduce the failure.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -50,7 +50,7 @@ export ASAN_OPTIONS=quarantine_size_mb=32:malloc_context_size=10
 failed=0
 printf '%s\n' "${targets[@]}" | xargs -P "$jobs" -I {} bash -c 'run {}' || failed=1
 
-# Coverage is counted in edges, features in edges with how often they were taken.
+# Coverage is counted in edges, features in edges by how often they were taken.
 printf '%-12s %12s %8s %9s\n' target executions edges features
 for target in "${targets[@]}"; do
   awk -v target="$target" '

@@ -5,7 +5,7 @@ cd "$(dirname "$0")/.."
 
 preset=$1
 shift
-# A progress line for each step on a terminal, else only what went wrong.
+# On a terminal, show progress; otherwise only the end of the log if the build fails.
 log=build/$preset.log
 mkdir -p build
 quietly() {

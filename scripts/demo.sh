@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and shows the product at work on sample machines: scripts/demo.sh [MACHINE]
+# Installs missing packages, builds, and runs the product on sample machines: scripts/demo.sh [MACHINE]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 scripts/packages.sh build
 scripts/build.sh dev orvik-diag ovk_module_raid
 
-# A machine that needs care ends its tests with exit code 1 or 2; that is what a demonstration should show.
+# Exit codes 1 and 2 are expected: the sample machines have faults for the tests to find.
 show() {
   local status=0
   printf '\n$ %s\n\n' "$*"
@@ -21,7 +21,7 @@ if [ $# -gt 0 ]; then
   diag "$1" test
   exit
 fi
-# Checks are running on two of its four drives, so the test asks; the machine's clock makes minutes pass in a second.
+# Consistency checks are running on two of the four drives, so the test asks a question. The simulated clock runs fast.
 diag machines/consistency.json test --only CHECK_CONSISTENCY_TEST --answer ok
 diag machines/both-families.json scan
 diag machines/both-families.json test

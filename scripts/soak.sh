@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs scans, all tests and drive operations on an ever changing machine and ends with 1 when memory, handles or threads
-# grow: scripts/soak.sh MINUTES [PLOT]. PLOT is docs/images/soak.svg unless given.
+# Runs scans, all tests and drive operations on a machine that keeps changing; exits with 1 if memory, handles or threads
+# grow: scripts/soak.sh MINUTES [PLOT]. PLOT defaults to docs/images/soak.svg.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

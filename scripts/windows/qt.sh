@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
-# Builds Qt 6 (Core, Gui, Widgets) for 64-bit Windows from the source package of the Qt that this machine has,
-# once, into a cache folder outside the repository. Prints the prefix of the finished build.
+# Builds Qt 6 (Core, Gui, Widgets) for 64-bit Windows, unless a cached build exists, and prints its prefix for
+# ORVIK_QT_WINDOWS. Uses the source package of the installed Qt.
 #
-#   scripts/windows/qt.sh            build when it is not there yet
-#   ORVIK_CACHE=DIR                  another cache folder (default: ~/.cache/orvik)
+#   ORVIK_CACHE=DIR                  cache folder (default: ~/.cache/orvik)
 set -euo pipefail
 
 cache=${ORVIK_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/orvik}
@@ -21,7 +20,7 @@ fi
 work=$cache/qt-$version-work
 mkdir -p "$work/apt/parts" "$work/apt/lists/partial" "$work/source"
 
-# The source entries live in lists of our own, so that the machine's package lists stay as they are.
+# Separate package lists with source entries: the machine's own lists are not changed.
 for list in /etc/apt/sources.list.d/debian.sources /etc/apt/sources.list; do
   [ -e "$list" ] || continue
   case $list in
@@ -32,7 +31,7 @@ done
 apt_options=(-o "Dir::Etc::sourcelist=/dev/null" -o "Dir::Etc::sourceparts=$work/apt/parts"
              -o "Dir::State::lists=$work/apt/lists" -o "APT::Sandbox::User=root")
 if [ ! -e "$work/source/unpacked" ]; then
-  say "fetching the sources of qt6-base $version"
+  say "downloading the sources of qt6-base $version"
   apt-get "${apt_options[@]}" update -qq >&2
   (cd "$work/source" && rm -rf qt6-base-* && apt-get "${apt_options[@]}" source -qq "qt6-base=$version" >&2)
   touch "$work/source/unpacked"
@@ -52,7 +51,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 TOOLCHAIN
 
-say "building Qt for Windows into $prefix (about a quarter of an hour on two cores)"
+say "building Qt for Windows into $prefix (about 20 minutes on two cores)"
 off=(network sql dbus xml printsupport concurrent icu testlib vulkan tabletevent
      system_zlib system_png system_jpeg system_freetype system_harfbuzz system_pcre2)
 settings=()

@@ -1,12 +1,12 @@
-# Sourced: a Wine of our own, with a display and a prefix in a scratch folder, gone when the shell ends.
+# Sourced: Wine with a display and a prefix in a temporary folder, removed when the shell exits.
 #   wine_start        makes the prefix; wine_run PROGRAM [ARGUMENT]... runs a Windows program in it
-# Qt wants a display even for its message window, and a wineserver that was started without one goes on failing.
+# Qt needs a display even for its message window, and a wineserver started without one never finds it.
 
 wine_start() {
   wine_scratch=$(mktemp -d)
   trap wine_stop EXIT
   export WINEPREFIX=$wine_scratch/prefix WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
-  # The display number is Xvfb's own choice, so that two of these do not meet.
+  # Xvfb picks a free display number, so that several runs do not collide.
   Xvfb -displayfd 3 -screen 0 1280x1024x24 3> "$wine_scratch/display" > /dev/null 2>&1 &
   wine_display=$!
   for _ in $(seq 100); do [ -s "$wine_scratch/display" ] && break; sleep 0.1; done
@@ -22,7 +22,7 @@ wine_stop() {
   rm -rf "$wine_scratch"
 }
 
-# Where the libraries lie that a program of this project needs beside its own folder.
+# The folders of the DLLs that our programs need and that are not built here.
 wine_library_path() {
   local folder path=
   for folder in "$ORVIK_QT_WINDOWS/bin" "$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")" \
