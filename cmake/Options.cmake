@@ -28,7 +28,8 @@ add_library(orvik_options INTERFACE)
 target_compile_options(orvik_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
   -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough -Werror
-  -Wno-restrict)  # GCC 12 reports overlaps in std::string that do not exist
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-format-nonliteral>
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)  # GCC 12 reports overlaps in std::string that do not exist
 if(ORVIK_SANITIZE)
   # Host and module share only the layout of virtual tables, so there is no type information to check (vptr).
   target_compile_options(orvik_options INTERFACE
@@ -39,8 +40,7 @@ endif()
 # Coverage for the fuzzers; the fuzz programs link the engine itself (fuzz/CMakeLists.txt).
 option(ORVIK_FUZZ "Build the fuzzers in place of the programs and tests; needs clang" OFF)
 if(ORVIK_FUZZ)
-  target_compile_options(orvik_options INTERFACE -fsanitize=fuzzer-no-link -Wno-unknown-warning-option
-    -Wno-format-nonliteral)
+  target_compile_options(orvik_options INTERFACE -fsanitize=fuzzer-no-link)
   target_compile_definitions(orvik_options INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
 

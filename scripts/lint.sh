@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# The rules that a compiler does not check: formatting, clang-tidy, who includes whom, calls that have one home, and
-# the names that the libraries export. scripts/lint.sh [--quick] (leaves clang-tidy out)
+# Checks what the build does not: formatting, include rules, restricted calls, exported names, clang's warnings and
+# clang-tidy. scripts/lint.sh [--quick]
+#   --quick   without clang's warnings and clang-tidy
 set -uo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/packages.sh build lint
+scripts/packages.sh build clang lint || exit 1
 failed=0
 rule() { printf -- '-- %s\n' "$1"; }
 broken() { printf '%s\n' "$1"; failed=1; }
@@ -14,10 +15,10 @@ mapfile -t sources < <(git ls-files --cached --others --exclude-standard '*.h' '
 rule "formatting"
 clang-format --dry-run -Werror "${sources[@]}" || failed=1
 
-rule "who includes whom"
+rule "include rules"
 cmake -DROOT="$PWD" -P cmake/IncludeRules.cmake || failed=1
 
-# only_in PATTERN WHAT HOME...: outside their homes, product code must not have lines that match.
+# only_in PATTERN WHAT HOME...: product code outside HOME must not match PATTERN.
 only_in() {
   local pattern=$1 what=$2
   shift 2
@@ -28,14 +29,14 @@ only_in() {
   [ -z "$hits" ] || broken "$what"$'\n'"$hits"
 }
 
-rule "calls that have one home"
+rule "restricted calls"
 only_in '\b(memcpy|memmove|memset|strcpy|sprintf)\b' \
-  "raw copies belong behind the bounded views" utils/bytes simulation/bytes.h
+  "raw copies belong in the bounded views" utils/bytes simulation/bytes.h
 only_in 'reinterpret_cast|__attribute__\(\(packed|#pragma pack' \
-  "casts of buffers belong into the headers for bytes" utils/bytes simulation/bytes.h \
+  "casts of buffers belong in the headers for bytes" utils/bytes simulation/bytes.h \
   utils/windows/unique_handle.h platform/hostkit/libraries.cpp platform/windows host/library
 only_in '\b(CloseHandle|SetupDiDestroyDeviceInfoList)\(' \
-  "handles belong to owners" utils/windows/unique_handle.h platform/windows
+  "handles must have owners that close them" utils/windows/unique_handle.h platform/windows
 hits=$(git grep --untracked -nE '#include <(latch|barrier|semaphore)>' -- '*.h' '*.cpp')
 [ -z "$hits" ] || broken "these lose wake-ups in GCC 12's library for Windows: use a promise or a condition variable"$'\n'"$hits"
 only_in '^ *# *(ifdef|ifndef|if) ' \
@@ -56,8 +57,12 @@ exports hostkit.so get_filesystem get_module get_number_handler get_string_handl
 exports storelib.dll ProcessLibCommand
 
 if [ "${1:-}" != --quick ]; then
+  rule "clang builds the host"
+  # The rest of the product is built with clang for the fuzzers (fuzz/run.sh).
+  scripts/build.sh clang orvik-diag || failed=1
+
   rule "clang-tidy"
-  # The product's sources as far as they compile here; the test framework's macros would take longer than all of them.
+  # Not the tests: the test framework's macros would take longer than the whole product.
   run-clang-tidy -quiet -p build/dev -extra-arg=-Wno-unknown-warning-option "$PWD/(core|utils|module|platform|simulation|host)/.*" \
     > build/tidy.log 2>&1 || { grep -E 'warning:|error:|note:|terminated by' -A 3 build/tidy.log; failed=1; }
 fi
