@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Makes a zip for 64-bit Windows: the host, both variants of the module, every DLL that they need, the sample machines
-# and a short README. Prints the path of the zip. scripts/windows/package.sh [--check]
-#   --check   unpacks the zip elsewhere and scans a sample machine with it under Wine, in an empty prefix
+# Makes a zip for 64-bit Windows: the host, both variants of the module, the DLLs they need, the sample machines and a
+# short README. Prints the path of the zip. scripts/windows/package.sh [--check]
+#   --check   checks the version resources, unpacks the zip elsewhere and runs it under Wine in an empty prefix
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -18,13 +18,13 @@ rm -rf build/package
 mkdir -p "$stage"/{machines,platforms,simulated}
 
 cp build/windows/bin/{orvik-diag.exe,ovk_module_raid.dll,hostkit.dll,skinkit.dll} "$stage"
-# In a folder of their own: the stand-in for the vendor's library has the vendor's file name.
+# In a separate folder, because the simulated vendor library has the vendor's file name.
 cp build/windows-simulated/bin/{ovk_module_raid_simulated,hostkit_simulated,skinkit_simulated}.dll \
    build/windows-simulated/bin/{orvik_windows,orvik_simulation,shcore_simulated,storelib}.dll "$stage/simulated"
 cp "$ORVIK_QT_WINDOWS"/plugins/platforms/{qwindows,qoffscreen}.dll "$stage/platforms"
 cp machines/*.json "$stage/machines"
 
-# Every DLL that something in the folder imports and that a folder of ours has, until nothing new turns up.
+# Copy imported DLLs from the folders below, then the DLLs that those import, until none is missing.
 folders=("$ORVIK_QT_WINDOWS/bin" "$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")"
          /usr/x86_64-w64-mingw32/lib)
 added=1
@@ -44,23 +44,27 @@ orvik-diag: RAID diagnostics
 
   orvik-diag scan       lists the RAID controllers of this machine with their disks
   orvik-diag test       tests them
-  orvik-diag --help     tells the rest
+  orvik-diag --help     lists all commands and options
 
-It talks to the controllers' drivers, so run it as administrator.
+Run it as administrator: it needs direct access to the controllers' drivers.
 
-To see it on a machine that has no RAID controller, give it a simulated one:
+To try it on a machine without a RAID controller, use a simulated machine:
 
   orvik-diag --machine machines\degraded.json scan
   orvik-diag --machine machines\degraded.json test
   orvik-diag --machine machines\consistency.json test --only CHECK_CONSISTENCY_TEST
 
-A host of your own loads ovk_module_raid.dll and finds hostkit.dll and skinkit.dll beside it. The storage vendor's
-storelib.dll belongs beside hostkit.dll too. The folder "simulated" holds the same module before a simulated machine.
+Your own host needs ovk_module_raid.dll, hostkit.dll and skinkit.dll in one folder. Put the storage vendor's
+storelib.dll into that folder too. The folder "simulated" holds the module built for simulated machines.
 README
 sed -i 's/$/\r/' "$stage/README.txt"
 (cd build/package && zip -q -r "$name.zip" "$name")
 
 if [ "${1:-}" = --check ]; then
+  python3 scripts/windows/file_version.py "$version" \
+    "$stage"/{orvik-diag.exe,ovk_module_raid.dll,hostkit.dll,skinkit.dll} \
+    "$stage"/simulated/{ovk_module_raid_simulated,hostkit_simulated,skinkit_simulated}.dll \
+    "$stage"/simulated/{orvik_windows,orvik_simulation,shcore_simulated,storelib}.dll
   . scripts/windows/wine.sh
   wine_start
   zip=$PWD/build/package/$name.zip
@@ -68,7 +72,7 @@ if [ "${1:-}" = --check ]; then
   mkdir "$elsewhere"
   unzip -q "$zip" -d "$elsewhere"
   cd "$elsewhere/$name"
-  # Nothing but what is in the zip: no library path of ours.
+  # Without a library path: the zip must contain every DLL.
   timeout 120 wine orvik-diag.exe --machine 'machines\mirror.json' scan --json < /dev/null > scan.json 2> /dev/null
   python3 -c 'import json; document = json.load(open("scan.json")); assert document["exitCode"] == 0 and len(document["devices"]) == 1 and len(document["devices"][0]["physicalDrives"]) == 2, document'
   code=0
