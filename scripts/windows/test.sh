@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the module for 64-bit Windows and tests it under Wine: all tests against the simulated machine, and the real
-# module against the real setup API, registry and threads. scripts/windows/test.sh
+# Builds for 64-bit Windows and tests under Wine: all tests on the simulated machine, and the real module on Wine's setup
+# API, registry and threads. scripts/windows/test.sh
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -21,11 +21,12 @@ result() {  # result WHAT COMMAND...: one check of this script's own
   if "$@"; then passed=$((passed + 1)); else failed=$((failed + 1)); printf 'FAILED: %s\n' "$what"; fi
 }
 
-# suite PROGRAM REPORT: runs a GoogleTest program and leaves "name status" lines in REPORT.
-suite() {
-  wine_run "$1" --gtest_output="json:$2.json" > "$2.log" 2>&1 || true
+# run_suite PROGRAM REPORT: runs a GoogleTest program; judge_suite counts its results and leaves "name status" lines in
+# REPORT.
+run_suite() { wine_run "$1" --gtest_output="json:$2.json" > "$2.log" 2>&1 || true; }
+judge_suite() {
   if [ ! -s "$2.json" ]; then
-    printf 'FAILED: %s did not end\n' "$1"
+    printf 'FAILED: %s is missing or did not finish\n' "$1"
     tail -n 20 "$2.log"
     failed=$((failed + 1))
     : > "$2"
@@ -63,6 +64,9 @@ ends_with() {  # ends_with CODE ARGUMENT...
   wine_run "$diag" "$@" > "$reports/diag.log" 2>&1 || code=$?
   [ "$code" = "$wanted" ] || { echo "orvik-diag $*: $code instead of $wanted"; cat "$reports/diag.log"; return 1; }
 }
+result "version resources" python3 scripts/windows/file_version.py \
+  "$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)" \
+  build/windows/bin/{orvik-diag.exe,ovk_module_raid.dll,hostkit.dll,skinkit.dll}
 result "help" ends_with 0 --help
 result "version" ends_with 0 --version
 result "presence" ends_with 0 presence
@@ -76,17 +80,23 @@ result "no simulated machine here" ends_with 3 scan --machine machines/missing.j
 echo "-- the real module: setup API, registry, threads, text, time"
 iconv -f UTF-8 -t UTF-16 tests/windows/adapters.reg > "$reports/adapters.reg"
 wine regedit /S "$reports/adapters.reg"
-suite build/windows/bin/windows_tests.exe "$reports/windows_tests"
+run_suite build/windows/bin/windows_tests.exe "$reports/windows_tests"
+judge_suite build/windows/bin/windows_tests.exe "$reports/windows_tests"
 
 echo "-- all tests on the simulated machine"
 printf '\n%-20s %8s %8s\n' suite native Wine > "$reports/table"
 : > "$reports/differences"
+# With real windows; the dialogs' tests run alone, because windows of other programs would take their focus.
+export QT_QPA_PLATFORM=windows
+run_suite build/windows-simulated/bin/dialog_tests.exe "$reports/dialog_tests"
+export reports
+export -f run_suite wine_run wine_library_path
+find build/dev/bin -name '*_tests' ! -name dialog_tests -printf '%f\n' |
+  xargs -P "$(nproc)" -I {} bash -c 'run_suite build/windows-simulated/bin/{}.exe "$reports/{}"'
+unset QT_QPA_PLATFORM
 for program in build/dev/bin/*_tests; do
   name=$(basename "$program")
-  windows=build/windows-simulated/bin/$name.exe
-  [ -e "$windows" ] || { printf 'FAILED: %s is missing\n' "$windows"; failed=$((failed + 1)); continue; }
-  # The dialogs' tests would do without a display; here their windows are real ones.
-  QT_QPA_PLATFORM=windows suite "$windows" "$reports/$name"
+  judge_suite "build/windows-simulated/bin/$name.exe" "$reports/$name"
   "$program" --gtest_list_tests | awk '/^[^ ]/ {group = $1} /^ / {print group $1}' | sort > "$reports/$name.native"
   grep -v ' skipped$' "$reports/$name" | cut -d ' ' -f 1 | sort > "$reports/$name.wine" || true
   printf '%-20s %8s %8s\n' "$name" "$(wc -l < "$reports/$name.native")" "$(wc -l < "$reports/$name.wine")" >> "$reports/table"
@@ -100,7 +110,7 @@ while read -r test; do
   if [ -n "$reason" ]; then
     printf 'one side only: %s: %s\n' "$test" "$reason"
   else
-    printf 'FAILED: %s runs on one side only, and nobody says why\n' "$test"
+    printf 'FAILED: %s runs on one side only, without a reason in tests/windows/differences.txt\n' "$test"
     failed=$((failed + 1))
   fi
 done < "$reports/differences"
