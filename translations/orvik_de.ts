@@ -1182,5 +1182,9 @@
         <source>yes</source>
         <translation>ja</translation>
     </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 erwartet keinen Wert</translation>
+    </message>
 </context>
 </TS>

@@ -1182,5 +1182,9 @@
         <source>yes</source>
         <translation>yes</translation>
     </message>
+    <message>
+        <source>%1 takes no value</source>
+        <translation>%1 takes no value</translation>
+    </message>
 </context>
 </TS>

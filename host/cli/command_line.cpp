@@ -80,6 +80,22 @@ Error UsageError(const QString& problem) {
   return {QStringLiteral("%1 %2").arg(problem.simplified(), help.arg(QCoreApplication::applicationName()))};
 }
 
+// The first argument that gives a value to an option that takes none, such as "--json=true"; empty without one.
+QString FlagWithValue(const CLI::App& app, const QStringList& arguments) {
+  std::vector<const CLI::App*> parsers = app.get_subcommands([](const CLI::App*) { return true; });
+  parsers.push_back(&app);
+  for (const QString& argument : arguments) {
+    const qsizetype end = argument.indexOf(u'=');
+    if (end < 0 || !argument.startsWith(u'-')) continue;
+    const std::string name = argument.left(end).toStdString();
+    for (const CLI::App* const parser : parsers) {
+      const CLI::Option* const option = parser->get_option_no_throw(name);
+      if (option != nullptr && option->get_items_expected_max() == 0) return argument.left(end);
+    }
+  }
+  return {};
+}
+
 }  // namespace
 
 Result<ParsedCommandLine> ParseCommandLine(const QStringList& arguments,
@@ -91,6 +107,9 @@ Result<ParsedCommandLine> ParseCommandLine(const QStringList& arguments,
   DescribeHelp(app);
   AddGlobalOptions(app, options);
   AddCommands(app, commands, request.command);
+  if (const QString flag = FlagWithValue(app, arguments); !flag.isEmpty()) {
+    return UsageError(QCoreApplication::translate("orvik-diag", "%1 takes no value").arg(flag));
+  }
   try {
     app.parse(Reversed(arguments));
   } catch (const CLI::CallForVersion& version) {
@@ -108,7 +127,9 @@ Result<ParsedCommandLine> ParseCommandLine(const QStringList& arguments,
 }
 
 bool WantsJson(const QStringList& arguments) {
-  return arguments.contains(QLatin1String("--json"));
+  return std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
+    return argument == QLatin1String("--json") || argument.startsWith(QLatin1String("--json="));
+  });
 }
 
 QString WantedLanguage(const QStringList& arguments) {

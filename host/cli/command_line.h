@@ -31,7 +31,8 @@ using ParsedCommandLine = std::variant<Request, Information>;
 Result<ParsedCommandLine> ParseCommandLine(const QStringList& arguments,
                                            const std::vector<std::unique_ptr<Command>>& commands);
 
-/// Whether `--json` is among the arguments. Known before parsing, because usage errors are JSON too.
+/// Whether `--json` is among the arguments, even with a value, which is a usage error. Known before parsing, because
+/// usage errors are JSON too.
 bool WantsJson(const QStringList& arguments);
 
 /// The value of `--lang`, empty without one. Known before parsing, because the help text is translated too.
