@@ -5,6 +5,10 @@
 #include <QtGlobal>
 #include <csignal>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 #include "host/terminal/terminal.h"
 
 namespace orvik::host {
@@ -35,6 +39,16 @@ void Catch(int signal) {
   // A signal that was ignored at the start (nohup, a background job) stays ignored.
   if (std::signal(signal, OnInterrupt) == SIG_IGN) static_cast<void>(std::signal(signal, SIG_IGN));
 }
+#ifdef Q_OS_WIN
+// Windows ends the process as soon as this returns, and in any case after a few seconds.
+BOOL WINAPI OnConsoleEvent(DWORD event) {
+  if (event != CTRL_CLOSE_EVENT && event != CTRL_LOGOFF_EVENT && event != CTRL_SHUTDOWN_EVENT) return FALSE;
+  interrupted.store(1);
+  Sleep(INFINITE);
+  return TRUE;
+}
+#endif
+
 
 }  // namespace
 
@@ -56,3 +70,8 @@ void CatchInterrupts() {
 }
 
 }  // namespace orvik::host
+#ifdef Q_OS_WIN
+  SetConsoleCtrlHandler(OnConsoleEvent, TRUE);
+#else
+  Catch(SIGHUP);
+#endif

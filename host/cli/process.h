@@ -11,7 +11,7 @@ void PrepareToolkit();
 /// Non-zero once the user has asked the program to stop. Passed to every run as its abort flag.
 const core::AbortFlag& InterruptFlag();
 
-/// Makes Ctrl-C and termination requests set the flag. A second one ends the program at once.
+/// Makes Ctrl-C, termination requests and a closed console set the flag. A second one ends the program at once.
 void CatchInterrupts();
 
 }  // namespace orvik::host

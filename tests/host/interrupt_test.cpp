@@ -26,7 +26,10 @@ class InterruptTest : public testing::Test {
 
   // Starts endless runs and waits until both devices are running.
   void Start(const QStringList& arguments = {"test", "--json"}) {
-    process_.setChildProcessModifier([] { static_cast<void>(std::signal(SIGINT, SIG_DFL)); });
+    process_.setChildProcessModifier([] {
+      static_cast<void>(std::signal(SIGINT, SIG_DFL));
+      static_cast<void>(std::signal(SIGHUP, SIG_DFL));
+    });
     host_.Start(process_, arguments);
     WaitForBoth("waiting\n");
   }
@@ -61,11 +64,15 @@ TEST_F(InterruptTest, RunsEndAsAbortedAndAreAllReported) {
   EXPECT_EQ(host_.LogLines().filter("finished 4").size(), 2);
 }
 
-TEST_F(InterruptTest, TerminationRequestStopsTheProgram) {
-  Start();
-  Send(SIGTERM);
-  ASSERT_TRUE(process_.waitForFinished(kTimeoutMilliseconds));
-  EXPECT_EQ(process_.exitCode(), 3);
+TEST_F(InterruptTest, TerminationRequestsAndClosedTerminalsStopTheProgram) {
+  for (const int signal : {SIGTERM, SIGHUP}) {
+    seen_.clear();
+    Start();
+    Send(signal);
+    ASSERT_TRUE(process_.waitForFinished(kTimeoutMilliseconds));
+    EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process_.exitCode(), 3);
+  }
 }
 
 TEST_F(InterruptTest, SecondSignalEndsAHangingProgram) {
