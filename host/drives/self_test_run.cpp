@@ -75,6 +75,7 @@ RunOutcome SelfTestRun::Perform() {
 RunOutcome SelfTestRun::Abort(const DriveAccess& access) {
   report.status = Status(access.protocol->AbortSelfTest());
   if (!report.status->Ok()) return NotAborted(*report.status);
+  report.isAborted = true;
   return TestResult::Passed;
 }
 
@@ -90,6 +91,10 @@ RunOutcome SelfTestRun::Follow(const DriveAccess& access) {
     if (WaitForNextPoll()) continue;
     const Status aborted(access.protocol->AbortSelfTest());
     if (!aborted.Ok()) return NotAborted(aborted);
+    report.isAborted = true;
+    // The result read before the abort said that the self-test was running.
+    report.result = Read(access, &Protocol::GetSelfTestResult);
+    report.progress.reset();
     return Error{QCoreApplication::translate("orvik-diag", "The self-test was aborted")};
   }
   return Conclude(access);

@@ -16,6 +16,7 @@ struct SelfTestReport {
   std::optional<module::storage::Status> status;
   Reading<std::uint8_t> result;
   std::optional<std::uint8_t> progress;  ///< percent
+  bool isAborted = false;                ///< whether the drive accepted an abort
   std::optional<std::uint64_t> failingLba;
 };
 

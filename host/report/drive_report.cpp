@@ -296,6 +296,7 @@ QJsonObject SelfTestJson(const SelfTestRun& run) {
   json["status"] = StatusJson(report.status);
   json["result"] = SelfTestCodeJson(report.result);
   json["progress"] = JsonNumber(progress);
+  json["aborted"] = report.isAborted;
   json["failingLba"] = JsonNumber(report.failingLba);
   return json;
 }

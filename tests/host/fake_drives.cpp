@@ -43,11 +43,16 @@ class Drive final : public Protocol {
 
   Status GetSelfTestResult(std::uint8_t& result) override {
     if (looks_ == 0) return Report(result, 7, kind_ == FakeDrive::Ata);
+    if (isAborted_) return Report(result, 1, true);
     const bool isOver = looks_ > 1 && !IsInMood("endless");
     return Report(result, isOver ? static_cast<std::uint8_t>(Environment(kSelfTestEnvironment)[0] - '0') : 15, true);
   }
 
-  Status AbortSelfTest() override { return Log("self-test aborted"), status::kSuccess; }
+  Status AbortSelfTest() override {
+    Log("self-test aborted");
+    isAborted_ = true;
+    return status::kSuccess;
+  }
   Status GetSelfTestFailingLba(std::uint64_t& lba) override { return Report(lba, 1234, true); }
   Status GetTemperature(std::uint8_t& degrees) override { return Report(degrees, 33, kind_ == FakeDrive::Ata); }
   Status GetHealthStatus(std::uint8_t& healthy) override { return Report(healthy, 0, kind_ == FakeDrive::Ata); }
@@ -75,6 +80,7 @@ class Drive final : public Protocol {
 
 }  // namespace
 
+  bool isAborted_ = false;
 std::shared_ptr<module::storage::Protocol> MakeFakeDrive(FakeDrive kind) {
   return std::make_shared<Drive>(kind);
 }

@@ -92,7 +92,10 @@ TEST_F(InterruptTest, SelfTestIsAborted) {
   ASSERT_TRUE(process_.waitForFinished(kTimeoutMilliseconds));
   EXPECT_EQ(process_.exitCode(), 3);
   const QJsonObject document = CheckedDocument(process_.readAllStandardOutput());
-  EXPECT_EQ(document["selfTest"].toObject()["request"].toString(), "short");
+  const QJsonObject selfTest = document["selfTest"].toObject();
+  EXPECT_EQ(selfTest["request"].toString(), "short");
+  EXPECT_TRUE(selfTest["aborted"].toBool());
+  EXPECT_EQ(selfTest["result"].toObject()["word"].toString(), "aborted-by-host");
   EXPECT_EQ(document["errors"].toArray()[0].toObject()["message"].toString(),
             "Device 0, d-0: The self-test was aborted");
   EXPECT_EQ(host_.LogLines().filter("self-test aborted").size(), 1);
