@@ -1186,5 +1186,9 @@
         <source>%1 takes no value</source>
         <translation>%1 erwartet keinen Wert</translation>
     </message>
+    <message>
+        <source>The question has no button &quot;%1&quot;</source>
+        <translation>Die Frage hat keine Schaltfläche „%1“</translation>
+    </message>
 </context>
 </TS>

@@ -1186,5 +1186,9 @@
         <source>%1 takes no value</source>
         <translation>%1 takes no value</translation>
     </message>
+    <message>
+        <source>The question has no button &quot;%1&quot;</source>
+        <translation>The question has no button &quot;%1&quot;</translation>
+    </message>
 </context>
 </TS>

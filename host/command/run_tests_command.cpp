@@ -6,6 +6,7 @@
 #include "host/question/question_desk.h"
 #include "host/report/device_report.h"
 #include "host/report/run_report.h"
+#include "host/text/format.h"
 
 namespace orvik::host {
 namespace {
@@ -55,6 +56,7 @@ class RunTestsCommand final : public Command {
       if (context.hideSerials) HideSerials(run->log.Messages());
       report.exitCode = Worse(report.exitCode, ExitCodeOf(run->outcome));
       if (!run->outcome.Ok()) {
+      for (const AskedQuestion& question : run->log.Questions()) CheckAnswer(question, *run, report);
         report.errors += DeviceProblem(*run->device, run->test->name, run->outcome.Error().text);
       }
     }
@@ -70,6 +72,15 @@ class RunTestsCommand final : public Command {
 
  private:
   std::vector<std::string> deviceNames_;
+  // A question without the button of `--answer` was closed, so the user did not get what was asked for.
+  void CheckAnswer(const AskedQuestion& question, const TestRun& run, Report& report) const {
+    const QString answer = QString::fromStdString(answer_).toLower();
+    if (answer.isEmpty() || question.choices.contains(answer)) return;
+    const QString problem = QCoreApplication::translate("orvik-diag", "The question has no button \"%1\"");
+    report.errors += DeviceProblem(*run.device, run.test->name, WithChoices(problem.arg(answer), question.choices));
+    report.exitCode = Worse(report.exitCode, ExitCode::NoVerdict);
+  }
+
   std::vector<std::string> testNames_;
   std::string answer_;
 };

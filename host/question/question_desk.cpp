@@ -75,9 +75,9 @@ void QuestionDesk::Take(QDialog& dialog) {
   {
     const std::lock_guard lock(mutex_);
     if (!expecting_ || asked_) return;
-    asked_ = AskedQuestion{LabelText(dialog, kTitleName), LabelText(dialog, kTextName), std::nullopt};
+    dialog_ = &dialog;
+    asked_ = AskedQuestion{LabelText(dialog, kTitleName), LabelText(dialog, kTextName), Choices(), std::nullopt};
   }
-  dialog_ = &dialog;
   for (QAbstractButton* const button : Buttons()) {
     connect(button, &QAbstractButton::clicked, this, [this, answer = AnswerOf(*button)] {
       const std::lock_guard lock(mutex_);
@@ -118,7 +118,7 @@ void QuestionDesk::AskOnTerminal() {
   for (const QAbstractButton* const button : Buttons()) words += QLatin1String(NameOf(*AnswerOf(*button)));
   const QString question =
       QStringLiteral("%1\n%2\n[%3] ")
-          .arg(LabelText(*dialog_, kTitleName), LabelText(*dialog_, kTextName), words.join(QLatin1Char('/')));
+          .arg(LabelText(*dialog_, kTitleName), LabelText(*dialog_, kTextName), Choices().join(QLatin1Char('/')));
   Write(Stream::Error, question.toUtf8());
   terminalTimer_.start(kTerminalInterval);
 }
@@ -151,6 +151,12 @@ QList<QAbstractButton*> QuestionDesk::Buttons() const {
   for (QAbstractButton* const button : dialog_->findChildren<QAbstractButton*>()) {
     if (AnswerOf(*button)) buttons += button;
   }
+QStringList QuestionDesk::Choices() const {
+  QStringList choices;
+  for (const QAbstractButton* const button : Buttons()) choices += QLatin1String(NameOf(*AnswerOf(*button)));
+  return choices;
+}
+
   return buttons;
 }
 

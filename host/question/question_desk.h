@@ -3,6 +3,7 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
 #include <QTimer>
 #include <functional>
 #include <mutex>
@@ -38,6 +39,7 @@ class QuestionDesk final : public QObject, public QuestionPresenter {
   void AskOnTerminal();
   void ReadTerminal();
   void LeaveTerminal();
+  QStringList Choices() const;
   QList<QAbstractButton*> Buttons() const;
 
   const std::optional<QuestionAnswer> beforehand_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <atomic>
 #include <memory>
 #include <optional>
@@ -26,6 +27,7 @@ std::optional<QuestionAnswer> AnswerNamed(const QString& name);
 struct AskedQuestion {
   QString title;
   QString text;
+  QStringList choices;                   ///< names of its buttons
   std::optional<QuestionAnswer> answer;  ///< nothing if it was closed without an answer
 };
 

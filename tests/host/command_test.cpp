@@ -252,10 +252,10 @@ TEST_F(CommandTest, QuestionsWithoutAUserAreAnsweredOrClosed) {
     QJsonValue answer;
     const char* ending;
   };
-  for (const auto& [arguments, answer, ending] :
-       {Row{{"--answer", "ok"}, "ok", "answer 1"}, Row{{"--answer=Cancel"}, "cancel", "answer 2"},
-        Row{{"--answer", "yes"}, QJsonValue::Null, "answer 0"}, Row{{}, QJsonValue::Null, "answer 0"}}) {
-    const QJsonObject document = Document(QStringList{"test", "--device", "0"} + arguments, 0);
+  for (const auto& [arguments, answer, ending, exitCode] :
+       {Row{{"--answer", "ok"}, "ok", "answer 1", 0}, Row{{"--answer=Cancel"}, "cancel", "answer 2", 0},
+        Row{{"--answer", "yes"}, QJsonValue::Null, "answer 0", 3}, Row{{}, QJsonValue::Null, "answer 0", 0}}) {
+    const QJsonObject document = Document(QStringList{"test", "--device", "0"} + arguments, exitCode);
     const QJsonArray questions = document["runs"].toArray()[0].toObject()["questions"].toArray();
     EXPECT_EQ(questions, (QJsonArray{QJsonObject{{"title", "Sure?"}, {"text", "It hurts."}, {"answer", answer}}}));
     EXPECT_EQ(host_.LogLines().filter("answer").last(), ending);
@@ -266,3 +266,5 @@ TEST_F(CommandTest, QuestionsWithoutAUserAreAnsweredOrClosed) {
 
 }  // namespace
 }  // namespace orvik::tests
+    int exitCode;
+  EXPECT_TRUE(host_.Run({"test", "--device", "0", "--answer", "yes"}).err.contains("has no button \"yes\""));
