@@ -1190,5 +1190,9 @@
         <source>The question has no button &quot;%1&quot;</source>
         <translation>Die Frage hat keine Schaltfläche „%1“</translation>
     </message>
+    <message>
+        <source>Could not open a window for the question (%1)</source>
+        <translation>Für die Frage konnte kein Fenster geöffnet werden (%1)</translation>
+    </message>
 </context>
 </TS>

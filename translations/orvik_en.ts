@@ -1190,5 +1190,9 @@
         <source>The question has no button &quot;%1&quot;</source>
         <translation>The question has no button &quot;%1&quot;</translation>
     </message>
+    <message>
+        <source>Could not open a window for the question (%1)</source>
+        <translation>Could not open a window for the question (%1)</translation>
+    </message>
 </context>
 </TS>

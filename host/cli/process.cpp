@@ -18,12 +18,16 @@ void WriteFatalMessages(QtMsgType type, const QMessageLogContext& /*context*/, c
   if (type == QtFatalMsg) Write(Stream::Error, (message + u'\n').toUtf8());
 }
 
-// Windows always has a desktop.
+// The toolkit takes the first platform that works, and the last one always does: without it, a platform that cannot
+// be used would abort the program.
 void ChooseDisplay() {
-#ifndef Q_OS_WIN
-  if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
+  const QByteArray wanted = qgetenv("QT_QPA_PLATFORM");
+  if (!wanted.isEmpty()) {
+    if (!wanted.startsWith("offscreen")) qputenv("QT_QPA_PLATFORM", wanted + ";offscreen");
+    return;
+  }
+#ifndef Q_OS_WIN  // which always has a desktop
   const bool display = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-  // The toolkit takes the first that works; the last always does.
   qputenv("QT_QPA_PLATFORM", QByteArray(display ? "wayland;xcb;offscreen" : "offscreen"));
 #endif
 }
@@ -35,10 +39,6 @@ extern "C" void OnInterrupt(int signal) {
   static_cast<void>(std::signal(signal, SIG_DFL));
 }
 
-void Catch(int signal) {
-  // A signal that was ignored at the start (nohup, a background job) stays ignored.
-  if (std::signal(signal, OnInterrupt) == SIG_IGN) static_cast<void>(std::signal(signal, SIG_IGN));
-}
 #ifdef Q_OS_WIN
 // Windows ends the process as soon as this returns, and in any case after a few seconds.
 BOOL WINAPI OnConsoleEvent(DWORD event) {
@@ -49,6 +49,10 @@ BOOL WINAPI OnConsoleEvent(DWORD event) {
 }
 #endif
 
+void Catch(int signal) {
+  // A signal that was ignored at the start (nohup, a background job) stays ignored.
+  if (std::signal(signal, OnInterrupt) == SIG_IGN) static_cast<void>(std::signal(signal, SIG_IGN));
+}
 
 }  // namespace
 
@@ -67,11 +71,11 @@ const core::AbortFlag& InterruptFlag() {
 void CatchInterrupts() {
   Catch(SIGINT);
   Catch(SIGTERM);
-}
-
-}  // namespace orvik::host
 #ifdef Q_OS_WIN
   SetConsoleCtrlHandler(OnConsoleEvent, TRUE);
 #else
   Catch(SIGHUP);
 #endif
+}
+
+}  // namespace orvik::host

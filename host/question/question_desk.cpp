@@ -31,6 +31,15 @@ std::optional<QuestionAnswer> AnswerOf(const QAbstractButton& button) {
   return name.startsWith(kButtonPrefix) ? AnswerNamed(name.mid(kButtonPrefix.size())) : std::nullopt;
 }
 
+// Said only here: without a question nobody misses the display that was asked for.
+void NoteMissingDisplay() {
+  const QString wanted = qEnvironmentVariable("QT_QPA_PLATFORM").remove(QLatin1String(";offscreen"));
+  if (wanted.startsWith(QLatin1String("offscreen")) || wanted.startsWith(QLatin1String("minimal"))) return;
+  const QString note = QCoreApplication::translate("orvik-diag", "Could not open a window for the question (%1)")
+                           .arg(QStringLiteral("QT_QPA_PLATFORM=") + wanted);
+  Write(Stream::Error, QStringLiteral("%1: %2\n").arg(QCoreApplication::applicationName(), note).toUtf8());
+}
+
 // Whether the windows of this program appear on a screen.
 bool HasDisplay() {
   const QString platform = QGuiApplication::platformName();
@@ -91,15 +100,13 @@ void QuestionDesk::Take(QDialog& dialog) {
 
 void QuestionDesk::Serve() {
   if (dialog_ == nullptr) return;
-  if (beforehand_) {
-    Press(*beforehand_);
-  } else if (HasDisplay()) {
-    return;  // the user answers in the window
-  } else if (IsInputTerminal() && IsTerminal(Stream::Error)) {
-    AskOnTerminal();
-  } else {
-    dialog_->close();
-  }
+  if (beforehand_) return Press(*beforehand_);
+  if (HasDisplay()) return;  // the user answers in the window
+  onTerminal_(true);
+  NoteMissingDisplay();
+  if (IsInputTerminal() && IsTerminal(Stream::Error)) return AskOnTerminal();
+  onTerminal_(false);
+  dialog_->close();
 }
 
 void QuestionDesk::Press(QuestionAnswer wanted) {
@@ -114,8 +121,6 @@ void QuestionDesk::Press(QuestionAnswer wanted) {
 
 void QuestionDesk::AskOnTerminal() {
   onTerminal_(true);
-  QStringList words;
-  for (const QAbstractButton* const button : Buttons()) words += QLatin1String(NameOf(*AnswerOf(*button)));
   const QString question =
       QStringLiteral("%1\n%2\n[%3] ")
           .arg(LabelText(*dialog_, kTitleName), LabelText(*dialog_, kTextName), Choices().join(QLatin1Char('/')));
@@ -146,17 +151,17 @@ void QuestionDesk::LeaveTerminal() {
   onTerminal_(false);
 }
 
-QList<QAbstractButton*> QuestionDesk::Buttons() const {
-  QList<QAbstractButton*> buttons;
-  for (QAbstractButton* const button : dialog_->findChildren<QAbstractButton*>()) {
-    if (AnswerOf(*button)) buttons += button;
-  }
 QStringList QuestionDesk::Choices() const {
   QStringList choices;
   for (const QAbstractButton* const button : Buttons()) choices += QLatin1String(NameOf(*AnswerOf(*button)));
   return choices;
 }
 
+QList<QAbstractButton*> QuestionDesk::Buttons() const {
+  QList<QAbstractButton*> buttons;
+  for (QAbstractButton* const button : dialog_->findChildren<QAbstractButton*>()) {
+    if (AnswerOf(*button)) buttons += button;
+  }
   return buttons;
 }
 

@@ -168,6 +168,14 @@ TEST_F(CommandTest, NoControllerIsNotAnError) {
   EXPECT_EQ(host_.Run({"presence"}).out, "No RAID controller found.\n");
 }
 
+TEST_F(CommandTest, UnusableDisplayMattersToQuestionsOnly) {
+  host_.SetEnvironment("QT_QPA_PLATFORM", "nonsense");
+  EXPECT_EQ(host_.Run({"test", "--device", "0"}).err, "");
+  host_.SetEnvironment("FAKE_TESTS", QString::number(kAsk));
+  EXPECT_EQ(host_.Run({"test", "--device", "0"}).err,
+            "orvik-diag: Could not open a window for the question (QT_QPA_PLATFORM=nonsense)\n");
+}
+
 TEST_F(CommandTest, TextsFollowTheRequestedLanguage) {
   EXPECT_TRUE(host_.Run({"tests", "--lang", "de"}).out.contains("RAID-Statustest"));
   EXPECT_TRUE(host_.Run({"tests", "--lang=xx"}).out.contains("RAID status test"));
