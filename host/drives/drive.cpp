@@ -68,6 +68,13 @@ void ReadSelfTests(Drive& drive, const std::vector<DriveAccess>& accesses) {
   const SelfTestEnd end = EndOf(*drive.selfTestResult.value, drive.selfTestResult.isAta);
   if (end == SelfTestEnd::InProgress) drive.selfTestProgress = ReadSelfTestProgress(*reader);
   if (end == SelfTestEnd::Failed) drive.failingLba = Read(*reader, &Protocol::GetSelfTestFailingLba);
+// Above 100 percent counts as not reported.
+Reading<std::uint32_t> ReadLifeRemaining(const std::vector<DriveAccess>& accesses) {
+  Reading<std::uint32_t> reading = ReadAny(accesses, &Protocol::GetLifeRemaining);
+  if (reading.value > kWholePercent) reading.value.reset();
+  return reading;
+}
+
 }
 
 Word AtaSelfTestWord(std::uint8_t code) {
@@ -140,7 +147,7 @@ void ReadDrive(Drive& drive) {
   const std::vector<DriveAccess> accesses = AccessesOf(drive);
   drive.temperature = ReadAny(accesses, &Protocol::GetTemperature);
   drive.health = ReadAny(accesses, &Protocol::GetHealthStatus);
-  drive.lifeRemaining = ReadAny(accesses, &Protocol::GetLifeRemaining);
+  drive.lifeRemaining = ReadLifeRemaining(accesses);
   drive.powerMode = ReadAny(accesses, &Protocol::GetPowerMode);
   ReadSelfTests(drive, accesses);
 }

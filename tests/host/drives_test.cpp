@@ -26,6 +26,7 @@ TEST(Drives, ReportOnlyWhatTheDriveProvides) {
       {1, "status/number", 88},
       {2, "identification/securitySupported", QJsonValue::Null},
       {2, "readings/lifeRemaining/value", 97},
+      {0, "readings/lifeRemaining/value", QJsonValue::Null},  // 101 percent
       {2, "readings/health/value", QJsonValue::Null},
       {2, "readings/selfTestResult/value", QJsonValue::Null},
       {3, "status/number", 0},  // identified through the ATA object

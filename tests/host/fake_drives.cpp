@@ -56,7 +56,9 @@ class Drive final : public Protocol {
   Status GetSelfTestFailingLba(std::uint64_t& lba) override { return Report(lba, 1234, true); }
   Status GetTemperature(std::uint8_t& degrees) override { return Report(degrees, 33, kind_ == FakeDrive::Ata); }
   Status GetHealthStatus(std::uint8_t& healthy) override { return Report(healthy, 0, kind_ == FakeDrive::Ata); }
-  Status GetLifeRemaining(std::uint32_t& percent) override { return Report(percent, 97, kind_ == FakeDrive::Nvme); }
+  Status GetLifeRemaining(std::uint32_t& percent) override {
+    return Report(percent, kind_ == FakeDrive::Nvme ? 97 : 101, kind_ != FakeDrive::Scsi);
+  }
   Status GetPowerMode(std::uint32_t& mode) override { return Report(mode, 2, kind_ == FakeDrive::Ata); }
 
   void* GetHandle() const override { return nullptr; }
