@@ -1183,8 +1183,20 @@
         <translation>ja</translation>
     </message>
     <message>
+        <source>Note: %1</source>
+        <translation>Hinweis: %1</translation>
+    </message>
+    <message>
         <source>%1 takes no value</source>
         <translation>%1 erwartet keinen Wert</translation>
+    </message>
+    <message>
+        <source>the simulated machine</source>
+        <translation>der simulierten Maschine</translation>
+    </message>
+    <message>
+        <source>Vendor library %1 not found in %2: controllers that need it are not listed</source>
+        <translation>Herstellerbibliothek %1 in %2 nicht gefunden: Controller, die sie benötigen, werden nicht aufgelistet</translation>
     </message>
     <message>
         <source>The question has no button &quot;%1&quot;</source>
@@ -1193,6 +1205,10 @@
     <message>
         <source>Could not open a window for the question (%1)</source>
         <translation>Für die Frage konnte kein Fenster geöffnet werden (%1)</translation>
+    </message>
+    <message>
+        <source>ATA commands reach a drive with another serial number; only SCSI is used</source>
+        <translation>ATA-Befehle erreichen ein Laufwerk mit anderer Seriennummer; nur SCSI wird verwendet</translation>
     </message>
 </context>
 </TS>

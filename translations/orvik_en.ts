@@ -1183,8 +1183,20 @@
         <translation>yes</translation>
     </message>
     <message>
+        <source>Note: %1</source>
+        <translation>Note: %1</translation>
+    </message>
+    <message>
         <source>%1 takes no value</source>
         <translation>%1 takes no value</translation>
+    </message>
+    <message>
+        <source>the simulated machine</source>
+        <translation>the simulated machine</translation>
+    </message>
+    <message>
+        <source>Vendor library %1 not found in %2: controllers that need it are not listed</source>
+        <translation>Vendor library %1 not found in %2: controllers that need it are not listed</translation>
     </message>
     <message>
         <source>The question has no button &quot;%1&quot;</source>
@@ -1193,6 +1205,10 @@
     <message>
         <source>Could not open a window for the question (%1)</source>
         <translation>Could not open a window for the question (%1)</translation>
+    </message>
+    <message>
+        <source>ATA commands reach a drive with another serial number; only SCSI is used</source>
+        <translation>ATA commands reach a drive with another serial number; only SCSI is used</translation>
     </message>
 </context>
 </TS>

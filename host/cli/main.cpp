@@ -36,7 +36,8 @@ Result<Report> LoadAndExecute(const Request& request, const Translations& transl
   if (!library.Ok()) return library.Error();
   module = ModuleJson(library.Value()->Module());
   return request.command->Execute({library.Value()->Module(), translations, InterruptFlag(), format,
-                                   Palette(OutputTakesColours()), request.hideSerials});
+                                   Palette(OutputTakesColours()), request.hideSerials,
+                                   MissingVendorLibrary(machineFile.has_value())});
 }
 
 Output Answer(const Request& request, const Translations& translations, OutputFormat format) {
@@ -60,11 +61,19 @@ void WriteError(const QString& error) {
   Write(Stream::Error, QStringLiteral("%1: %2\n").arg(QCoreApplication::applicationName(), error).toUtf8());
 }
 
+QByteArray TextWithNotes(const Report& report) {
+  QString text = report.text;
+  for (const QString& note : report.notes) {
+    text += QCoreApplication::translate("orvik-diag", "Note: %1").arg(note) + u'\n';
+  }
+  return text.toUtf8();
+}
+
 int Print(const Output& output, OutputFormat format) {
   const Report& report = output.report;
   for (const QString& error : report.errors) WriteError(error);
   const QByteArray text =
-      format == OutputFormat::Json ? JsonDocument(output.command, output.module, report) : report.text.toUtf8();
+      format == OutputFormat::Json ? JsonDocument(output.command, output.module, report) : TextWithNotes(report);
   if (Write(Stream::Output, text)) return static_cast<int>(report.exitCode);
   WriteError(QCoreApplication::translate("orvik-diag", "Could not write the output"));
   return static_cast<int>(ExitCode::NoVerdict);

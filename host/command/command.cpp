@@ -57,6 +57,10 @@ Result<std::vector<ListedDevice>> FindDevices(const CommandContext& context) {
   return devices;
 }
 
+QStringList NotesOnNoDevice(const CommandContext& context) {
+  return context.whyNoneFound.isEmpty() ? QStringList() : QStringList(context.whyNoneFound);
+}
+
 QString DeviceProblem(const ListedDevice& device, const QString& problem) {
   return QCoreApplication::translate("orvik-diag", "Device %1: %2").arg(QString::number(device.index), problem);
 }
@@ -84,6 +88,7 @@ QByteArray JsonDocument(const QString& command, const QJsonValue& module, const 
   QJsonArray errors;
   for (const QString& error : report.errors) errors.append(QJsonObject{{"message", error}});
   document["errors"] = errors;
+  document["notes"] = QJsonArray::fromStringList(report.notes);
   document["exitCode"] = static_cast<int>(report.exitCode);
   return QJsonDocument(document).toJson();
 }

@@ -31,6 +31,7 @@ struct CommandContext {
   OutputFormat format = OutputFormat::Text;
   Palette palette;
   bool hideSerials = false;
+  QString whyNoneFound;  ///< a note on why there may be no device; empty if there is nothing to say
 };
 
 /// What a command reports, which may be a part of what was asked for.
@@ -38,6 +39,7 @@ struct Report {
   QString text;          ///< standard output for people; empty with `OutputFormat::Json`
   QJsonObject sections;  ///< members of the JSON document; empty with `OutputFormat::Text`
   QStringList errors;    ///< one line each
+  QStringList notes;     ///< what the user must know but is no error, one line each
   ExitCode exitCode = ExitCode::AllRight;
 };
 
@@ -78,6 +80,9 @@ void AddDeviceOption(CLI::App& options, std::vector<std::string>& values);
 
 /// Scans with the module's scanner; hides serial numbers if the user wants that.
 Result<std::vector<ListedDevice>> FindDevices(const CommandContext& context);
+
+/// What to add to a report if no device was found.
+QStringList NotesOnNoDevice(const CommandContext& context);
 
 /// Executes the runs with progress bars and returns when all have ended.
 template <typename Kind>

@@ -38,6 +38,7 @@ class DrivesCommand final : public Command {
     CompleteWithBars(queries, context);
 
     Report report;
+    if (devices.Value().empty()) report.notes = NotesOnNoDevice(context);
     for (const auto& query : queries) {
       if (context.hideSerials) {
         for (Drive& drive : query->drives) HideSerials(drive);
@@ -60,6 +61,9 @@ class DrivesCommand final : public Command {
   static void AddErrors(const DriveQuery& query, Report& report) {
     for (const QString& problem : ProblemsOf(query)) report.errors += DeviceProblem(*query.device, problem);
     for (const Drive& drive : query.drives) {
+      for (const QString& note : NotesOn(drive)) {
+        report.notes += DeviceProblem(*query.device, DisplayText(drive.entry.id), note);
+      }
       const QString problem = ProblemOf(drive);
       if (problem.isEmpty()) continue;
       report.errors += DeviceProblem(*query.device, DisplayText(drive.entry.id), problem);

@@ -25,6 +25,7 @@ class ScanCommand final : public Command {
     if (!devices.Ok()) return devices.Error();
 
     Report report;
+    if (devices.Value().empty()) report.notes = NotesOnNoDevice(context);
     QJsonArray json;
     for (const ListedDevice& device : devices.Value()) {
       ControllerDetails details = ReadControllerDetails(device);
@@ -64,6 +65,7 @@ class PresenceCommand final : public Command {
     if (!present.Ok()) return present.Error();
 
     Report report;
+    if (!present.Value()) report.notes = NotesOnNoDevice(context);
     if (context.format == OutputFormat::Json) {
       report.sections["present"] = present.Value();
     } else {
@@ -89,6 +91,7 @@ class ListTestsCommand final : public Command {
 
     const TestList list = ListTests(context.module, context.translations);
     Report report;
+    if (devices.Value().empty()) report.notes = NotesOnNoDevice(context);
     report.errors = list.errors;
     if (context.format == OutputFormat::Json) {
       report.sections["devices"] = DevicesJson(devices.Value());

@@ -50,13 +50,14 @@ class RunTestsCommand final : public Command {
     }
 
     Report report;
+    if (devices.Value().empty()) report.notes = NotesOnNoDevice(context);
     report.errors = list.errors;
     if (!list.errors.isEmpty()) report.exitCode = ExitCode::NoVerdict;
     for (const auto& run : runs) {
       if (context.hideSerials) HideSerials(run->log.Messages());
       report.exitCode = Worse(report.exitCode, ExitCodeOf(run->outcome));
-      if (!run->outcome.Ok()) {
       for (const AskedQuestion& question : run->log.Questions()) CheckAnswer(question, *run, report);
+      if (!run->outcome.Ok()) {
         report.errors += DeviceProblem(*run->device, run->test->name, run->outcome.Error().text);
       }
     }
@@ -71,7 +72,6 @@ class RunTestsCommand final : public Command {
   }
 
  private:
-  std::vector<std::string> deviceNames_;
   // A question without the button of `--answer` was closed, so the user did not get what was asked for.
   void CheckAnswer(const AskedQuestion& question, const TestRun& run, Report& report) const {
     const QString answer = QString::fromStdString(answer_).toLower();
@@ -81,6 +81,7 @@ class RunTestsCommand final : public Command {
     report.exitCode = Worse(report.exitCode, ExitCode::NoVerdict);
   }
 
+  std::vector<std::string> deviceNames_;
   std::vector<std::string> testNames_;
   std::string answer_;
 };

@@ -46,6 +46,7 @@ class SelfTestCommand final : public Command {
     for (const ListedDevice& device : devices.Value()) all.push_back(&device);
 
     Report report;
+    if (devices.Value().empty()) report.notes = NotesOnNoDevice(context);
     const DriveQueryList lists = PlanQueries(all, DriveQuery::Depth::List, context.abortFlag);
     CompleteWithBars(lists, context);
     for (const auto& list : lists) {
@@ -75,6 +76,9 @@ class SelfTestCommand final : public Command {
 
     SelfTestRun& run = *runs.front();
     if (context.hideSerials) HideSerials(run.drive);
+    for (const QString& note : NotesOn(run.drive)) {
+      report.notes += DeviceProblem(*chosen.device, DisplayText(run.drive.entry.id), note);
+    }
     if (!run.outcome.Ok()) {
       report.errors += DeviceProblem(*chosen.device, DisplayText(run.drive.entry.id), run.outcome.Error().text);
     }

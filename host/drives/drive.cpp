@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <algorithm>
 
+#include "host/text/format.h"
+
 namespace orvik::host {
 namespace {
 
@@ -46,6 +48,14 @@ void FillGaps(ProtocolProperties& known, const ProtocolProperties& other) {
   FillGap(known.conveyanceSelfTestSupported, other.conveyanceSelfTestSupported);
 }
 
+// Storelib carries ATA commands to the low 8 bits of a drive's number only. From drive 256 on they reach another
+// drive.
+bool AreDifferentDrives(const ProtocolProperties& first, const ProtocolProperties& second) {
+  const QString one = DisplayText(first.serialNumber).remove(u' ');
+  const QString other = DisplayText(second.serialNumber).remove(u' ');
+  return !one.isEmpty() && !other.isEmpty() && one != other;
+}
+
 // The first object that reports a value; the preferred one's reading if none does.
 template <typename Value, typename Code>
 Reading<Value> ReadAny(const std::vector<DriveAccess>& accesses, Code (Protocol::*operation)(Value&)) {
@@ -58,6 +68,13 @@ Reading<Value> ReadAny(const std::vector<DriveAccess>& accesses, Code (Protocol:
   return first;
 }
 
+// Above 100 percent counts as not reported.
+Reading<std::uint32_t> ReadLifeRemaining(const std::vector<DriveAccess>& accesses) {
+  Reading<std::uint32_t> reading = ReadAny(accesses, &Protocol::GetLifeRemaining);
+  if (reading.value > kWholePercent) reading.value.reset();
+  return reading;
+}
+
 void ReadSelfTests(Drive& drive, const std::vector<DriveAccess>& accesses) {
   drive.selfTestResult = ReadAny(accesses, &Protocol::GetSelfTestResult);
   if (!drive.selfTestResult.value) return;
@@ -68,13 +85,6 @@ void ReadSelfTests(Drive& drive, const std::vector<DriveAccess>& accesses) {
   const SelfTestEnd end = EndOf(*drive.selfTestResult.value, drive.selfTestResult.isAta);
   if (end == SelfTestEnd::InProgress) drive.selfTestProgress = ReadSelfTestProgress(*reader);
   if (end == SelfTestEnd::Failed) drive.failingLba = Read(*reader, &Protocol::GetSelfTestFailingLba);
-// Above 100 percent counts as not reported.
-Reading<std::uint32_t> ReadLifeRemaining(const std::vector<DriveAccess>& accesses) {
-  Reading<std::uint32_t> reading = ReadAny(accesses, &Protocol::GetLifeRemaining);
-  if (reading.value > kWholePercent) reading.value.reset();
-  return reading;
-}
-
 }
 
 Word AtaSelfTestWord(std::uint8_t code) {
@@ -111,6 +121,7 @@ Word ScsiSelfTestWord(std::uint8_t code) {
 void Identify(Drive& drive) {
   drive.status = status::kFailure;
   drive.properties = {};
+  drive.isAtaRefused = false;
   if (drive.entry.protocolObject != nullptr) {
     drive.status = Status(drive.entry.protocolObject->GetProperties(&drive.properties));
   }
@@ -118,6 +129,8 @@ void Identify(Drive& drive) {
   if (drive.entry.ataProtocolObject == nullptr) return;
   ProtocolProperties more;
   if (!Status(drive.entry.ataProtocolObject->GetProperties(&more)).Ok()) return;
+  drive.isAtaRefused = AreDifferentDrives(drive.properties, more);
+  if (drive.isAtaRefused) return;
   FillGaps(drive.properties, more);
   drive.status = status::kSuccess;
   drive.isAtaIdentified = true;
@@ -131,7 +144,8 @@ std::vector<DriveAccess> AccessesOf(const Drive& drive) {
     const bool isAta = name.empty() ? drive.entry.protocol == module::raid::DriveProtocol::Ata : name == "ATA";
     accesses.push_back({own, isAta});
   }
-  if (Protocol* const ata = drive.entry.ataProtocolObject.get(); ata != nullptr) accesses.push_back({ata, true});
+  Protocol* const ata = drive.entry.ataProtocolObject.get();
+  if (ata != nullptr && !drive.isAtaRefused) accesses.push_back({ata, true});
   return accesses;
 }
 

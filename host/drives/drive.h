@@ -29,6 +29,7 @@ struct Drive {
   std::optional<module::storage::Status> status;
   module::storage::ProtocolProperties properties;
   bool isAtaIdentified = false;  ///< whether some of `properties` came from ATA identify data
+  bool isAtaRefused = false;     ///< whether the entry's ATA object reaches another drive and must not be used
   QString problem;               ///< why reading stopped early; empty otherwise
 
   Reading<std::uint8_t> temperature;     ///< degrees Celsius
@@ -67,7 +68,8 @@ void Identify(Drive& drive);
 /// Identifies the drive and reads everything else. Blocks until the drive has answered.
 void ReadDrive(Drive& drive);
 
-/// The drive's protocol objects, the preferred one first. Call after `Identify`, which finds out what they speak.
+/// The drive's protocol objects, the preferred one first, without an ATA object that reaches another drive. Call
+/// after `Identify`, which finds out what they speak and reach.
 std::vector<DriveAccess> AccessesOf(const Drive& drive);
 
 /// Reads one value. An operation that the protocol does not have succeeds and leaves the output untouched, so the

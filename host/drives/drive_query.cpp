@@ -91,6 +91,12 @@ QStringList ProblemsOf(const DriveQuery& query) {
   return problems;
 }
 
+QStringList NotesOn(const Drive& drive) {
+  if (!drive.isAtaRefused) return {};
+  return {QCoreApplication::translate("orvik-diag",
+                                      "ATA commands reach a drive with another serial number; only SCSI is used")};
+}
+
 Result<ChosenDrive> ChooseDrive(const DriveQueryList& lists, const std::string& wanted) {
   std::vector<ChosenDrive> found =
       Matching(lists, [&wanted](const ChosenDrive& each) { return each.drive->entry.id == wanted; });

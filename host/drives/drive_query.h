@@ -35,6 +35,9 @@ DriveQueryList PlanQueries(const std::vector<const ListedDevice*>& devices, Driv
 /// What kept a finished query from listing or reading its drives: one line per problem.
 QStringList ProblemsOf(const DriveQuery& query);
 
+/// What the user must know about an identified drive that is no error: one line each.
+QStringList NotesOn(const Drive& drive);
+
 struct ChosenDrive {
   const ListedDevice* device = nullptr;
   const Drive* drive = nullptr;

@@ -4,6 +4,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLibrary>
+#ifdef Q_OS_WIN
+#include <windows.h>
+
+#include <array>
+#endif
 #include <exception>
 
 #include "host/text/format.h"
@@ -12,6 +17,7 @@ namespace orvik::host {
 namespace {
 
 using OpenSimulationFunction = const char*(const char* utf8Path);
+using HasVendorLibraryFunction = int();
 
 #ifdef Q_OS_WIN
 constexpr QLatin1String kSuffix(".dll");
@@ -45,6 +51,26 @@ QString ModulePath(const QString& file, bool simulated) {
   return QDir(QCoreApplication::applicationDirPath()).filePath(kInstalledModule + kSuffix);
 }
 
+// A simulation without the question has the library.
+bool SimulationHasVendorLibrary() {
+  QLibrary library(SimulationFolder().filePath(QStringLiteral("orvik_simulation")));
+  auto* const has = reinterpret_cast<HasVendorLibraryFunction*>(library.resolve("OrvikSimulationHasVendorLibrary"));
+  return has == nullptr || has() != 0;
+}
+
+// Where modules look for the vendor's library. Empty where there is none: if no module has loaded hostkit, or where
+// only simulated machines exist.
+QString HostkitFolder() {
+#ifdef Q_OS_WIN
+  std::array<wchar_t, 32768> path{};
+  const HMODULE hostkit = GetModuleHandleW(L"hostkit.dll");
+  if (hostkit != nullptr && GetModuleFileNameW(hostkit, path.data(), static_cast<DWORD>(path.size())) != 0) {
+    return QFileInfo(QString::fromWCharArray(path.data())).absolutePath();
+  }
+#endif
+  return {};
+}
+
 Error NotLoaded(const QString& path, const QString& cause) {
   return {QCoreApplication::translate("orvik-diag", "Could not load the module %1: %2")
               .arg(QDir::toNativeSeparators(path), cause.simplified())};
@@ -71,6 +97,17 @@ Result<void> OpenSimulatedMachine(const QString& machineFile) {
   const char* const problem = open(machineFile.toUtf8().constData());
   if (problem != nullptr) return Error{QString::fromUtf8(problem).simplified()};
   return {};
+}
+
+QString MissingVendorLibrary(bool simulated) {
+  const QString folder =
+      simulated ? QCoreApplication::translate("orvik-diag", "the simulated machine") : HostkitFolder();
+  const QLatin1String name("storelib.dll");
+  const bool isMissing = simulated ? !SimulationHasVendorLibrary() : !folder.isEmpty() && !QDir(folder).exists(name);
+  if (!isMissing) return {};
+  return QCoreApplication::translate("orvik-diag",
+                                     "Vendor library %1 not found in %2: controllers that need it are not listed")
+      .arg(name, QDir::toNativeSeparators(folder));
 }
 
 Result<std::unique_ptr<ModuleLibrary>> ModuleLibrary::Open(const QString& file, bool simulated) {

@@ -11,6 +11,10 @@ namespace orvik::host {
 /// Opens a simulated machine, so that a module loaded afterwards finds its controllers.
 Result<void> OpenSimulatedMachine(const QString& machineFile);
 
+/// A note that the vendor's library, which one family of controllers needs, is not installed; empty if it is. Call
+/// after the module has been loaded. `simulated` asks the simulated machine.
+QString MissingVendorLibrary(bool simulated);
+
 /// A loaded module library and its one module object. Release everything that came from the module (tests, devices,
 /// scanner, dispatcher) before destroying this.
 class ModuleLibrary {

@@ -105,7 +105,7 @@ QJsonObject PlaceJson(const ListedDevice& device, const Drive& drive) {
 
 QJsonObject DriveJson(const ListedDevice& device, const Drive& drive) {
   QJsonObject json = PlaceJson(device, drive);
-  json["ataPassThrough"] = drive.entry.ataProtocolObject != nullptr;
+  json["ataPassThrough"] = drive.entry.ataProtocolObject != nullptr && !drive.isAtaRefused;
   json["status"] = StatusJson(drive.status);
   json["error"] = JsonTextOrNull(drive.problem);
   json["identification"] = drive.Answers() ? QJsonValue(IdentificationJson(drive)) : QJsonValue(QJsonValue::Null);

@@ -61,3 +61,8 @@ const char* OrvikSimulationOpen(const char* path) {
   error = std::get<std::string>(loaded);
   return error.c_str();
 }
+
+int OrvikSimulationHasVendorLibrary() {
+  using orvik::simulation::StorelibInstallation;
+  return orvik::simulation::CurrentMachine()->Storelib().Installation() != StorelibInstallation::Missing ? 1 : 0;
+}

@@ -21,4 +21,7 @@ extern "C" {
 /// Loads the machine description at `path` (UTF-8) and installs it. Null on success; otherwise a one-line error
 /// text, valid until the calling thread's next call, and the current machine stays.
 const char* OrvikSimulationOpen(const char* path);
+
+/// Non-zero unless the vendor's library is missing on the current machine.
+int OrvikSimulationHasVendorLibrary();
 }

@@ -168,6 +168,28 @@ TEST_F(CommandTest, NoControllerIsNotAnError) {
   EXPECT_EQ(host_.Run({"presence"}).out, "No RAID controller found.\n");
 }
 
+TEST_F(CommandTest, MissingVendorLibraryIsNotedIfNothingIsFound) {
+  host_.InstallSimulation();
+  const QString note =
+      "Vendor library storelib.dll not found in the simulated machine: controllers that need it are not listed";
+  const struct {
+    const char* mood;
+    QJsonArray notes;
+  } cases[] = {{"empty no-vendor", {note}}, {"empty", {}}};
+  for (const auto& each : cases) {
+    host_.SetEnvironment("FAKE_MOOD", each.mood);
+    for (const char* const command : {"scan", "presence", "test", "drives", "tests"}) {
+      EXPECT_EQ(Document({command, "--machine", "good.json"}, 0)["notes"], each.notes) << command << each.mood;
+    }
+  }
+  host_.SetEnvironment("FAKE_MOOD", "no-vendor");
+  EXPECT_TRUE(Document({"scan", "--machine", "good.json"}, 0)["notes"].toArray().isEmpty())
+      << "controllers were found";
+  host_.SetEnvironment("FAKE_MOOD", "empty no-vendor");
+  EXPECT_EQ(host_.Run({"scan", "--machine", "good.json"}).out,
+            "No RAID controller found.\nNote: " + note.toUtf8() + '\n');
+}
+
 TEST_F(CommandTest, UnusableDisplayMattersToQuestionsOnly) {
   host_.SetEnvironment("QT_QPA_PLATFORM", "nonsense");
   EXPECT_EQ(host_.Run({"test", "--device", "0"}).err, "");
@@ -210,6 +232,8 @@ TEST_F(CommandTest, FailureIsOneErrorLineAndExitCodeThree) {
       {{}, "", "No command given"},
       {{"diagnose"}, "", "diagnose"},
       {{"scan", "--loud"}, "", "--loud"},
+      {{"scan", "--json=true"}, "", "--json takes no value"},
+      {{"selftest", "0:0", "--abort=1"}, "", "--abort takes no value"},
       {{"test", "--device", "9"}, "", "0 (A77F, First"},
       {{"test", "--only", "9"}, "", "RAID status test"},
       {{"scan", "--module", "/no/such.so"}, "", "no such file"},
@@ -237,8 +261,6 @@ TEST_F(CommandTest, FailureIsOneErrorLineAndExitCodeThree) {
 
 TEST_F(CommandTest, MachineIsOpenedBeforeTheModuleIsLoaded) {
   host_.InstallSimulation();
-      {{"scan", "--json=true"}, "", "--json takes no value"},
-      {{"selftest", "0:0", "--abort=1"}, "", "--abort takes no value"},
   EXPECT_EQ(host_.Run({"scan", "--machine", "sübdir/good.json"}).exitCode, 0);
   EXPECT_EQ(host_.LogLines().mid(0, 2), (QStringList{"opened sübdir/good.json", "module created"}));
 
@@ -259,6 +281,7 @@ TEST_F(CommandTest, QuestionsWithoutAUserAreAnsweredOrClosed) {
     QStringList arguments;
     QJsonValue answer;
     const char* ending;
+    int exitCode;
   };
   for (const auto& [arguments, answer, ending, exitCode] :
        {Row{{"--answer", "ok"}, "ok", "answer 1", 0}, Row{{"--answer=Cancel"}, "cancel", "answer 2", 0},
@@ -268,11 +291,10 @@ TEST_F(CommandTest, QuestionsWithoutAUserAreAnsweredOrClosed) {
     EXPECT_EQ(questions, (QJsonArray{QJsonObject{{"title", "Sure?"}, {"text", "It hurts."}, {"answer", answer}}}));
     EXPECT_EQ(host_.LogLines().filter("answer").last(), ending);
   }
+  EXPECT_TRUE(host_.Run({"test", "--device", "0", "--answer", "yes"}).err.contains("has no button \"yes\""));
   const Finished finished = host_.Run({"test", "--device", "0"});
   EXPECT_TRUE(finished.out.contains("question: Sure? It hurts. (not answered)\n")) << finished.out.toStdString();
 }
 
 }  // namespace
 }  // namespace orvik::tests
-    int exitCode;
-  EXPECT_TRUE(host_.Run({"test", "--device", "0", "--answer", "yes"}).err.contains("has no button \"yes\""));

@@ -14,8 +14,11 @@ namespace {
 TEST(Drives, ReportOnlyWhatTheDriveProvides) {
   HostProcess host;
   host.InstallModule();
-  const QJsonArray drives = CheckedDocument(host.Run({"drives", "--json"}).out)["drives"].toArray();
-  ASSERT_EQ(drives.size(), 5);
+  const QJsonObject document = CheckedDocument(host.Run({"drives", "--json"}).out);
+  const QJsonArray drives = document["drives"].toArray();
+  ASSERT_EQ(drives.size(), 6);
+  EXPECT_EQ(document["notes"], (QJsonArray{"Device 1, r-260: ATA commands reach a drive with another serial number; "
+                                           "only SCSI is used"}));
   const struct {
     int drive;
     const char* path;
@@ -23,16 +26,19 @@ TEST(Drives, ReportOnlyWhatTheDriveProvides) {
   } cases[] = {
       {0, "identification/capacityBytes", qint64{9007199254741504}},
       {0, "readings/health/value", "threshold-exceeded"},
+      {0, "readings/lifeRemaining/value", QJsonValue::Null},  // 101 percent
       {1, "status/number", 88},
       {2, "identification/securitySupported", QJsonValue::Null},
       {2, "readings/lifeRemaining/value", 97},
-      {0, "readings/lifeRemaining/value", QJsonValue::Null},  // 101 percent
       {2, "readings/health/value", QJsonValue::Null},
       {2, "readings/selfTestResult/value", QJsonValue::Null},
       {3, "status/number", 0},  // identified through the ATA object
       {3, "readings/temperature/value", 33},
       {4, "identification/serial", "SER-1"},
       {4, "readings/temperature/status/word", "failure"},
+      {5, "identification/serial", "SER-1"},  // its ATA object reaches another drive
+      {5, "ataPassThrough", false},
+      {5, "readings/temperature/value", QJsonValue::Null},
   };
   for (const auto& each : cases) {
     QJsonValue value = drives[each.drive];
@@ -62,6 +68,7 @@ TEST(Drives, SelfTestsEndWithTheirResult) {
       {{"0:0"}, "1", 3, "aborted by the host"},
       {{"d-1"}, "0", 3, "Could not start the self-test: device error, status 88"},
       {{"d-2"}, "0", 3, "Self-tests are not supported on NVMe drives"},
+      {{"r-260"}, "4", 2, "failed in a test segment"},  // not the drive that ATA commands reach
       {{"d-4", "--abort"}, "0", 0, "Abort command accepted"},
       {{"d-0"}, "0", 3, "0:0 (d-0, First\xEF\xBF\xBD(), 1:0 (d-0, Second)"},
   };

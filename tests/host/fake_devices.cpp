@@ -69,6 +69,8 @@ class FakeDevice final : public module::raid::RaidDevice {
     } else {
       devices.push_back({"d-0", DriveProtocol::Ata, MakeFakeDrive(FakeDrive::Scsi), MakeFakeDrive(FakeDrive::Ata)});
       devices.push_back({"d-4", DriveProtocol::Scsi, MakeFakeDrive(FakeDrive::Scsi), nullptr});
+      devices.push_back(
+          {"r-260", DriveProtocol::Ata, MakeFakeDrive(FakeDrive::Scsi), MakeFakeDrive(FakeDrive::OtherAta)});
     }
     return IsInMood("slots-fail") ? kSlotStatus : 0;
   }

@@ -23,8 +23,8 @@ class Drive final : public Protocol {
 
   Status GetProperties(ProtocolProperties* properties) override {
     if (kind_ == FakeDrive::Silent) return status::kDeviceError;
-    properties->protocolName = kind_ == FakeDrive::Nvme ? "NVMe" : kind_ == FakeDrive::Ata ? "ATA" : "SCSI";
-    properties->serialNumber = "SER-1";
+    properties->protocolName = kind_ == FakeDrive::Nvme ? "NVMe" : kind_ == FakeDrive::Scsi ? "SCSI" : "ATA";
+    properties->serialNumber = kind_ == FakeDrive::OtherAta ? "SER-2" : "SER-1";
     if (kind_ == FakeDrive::Scsi) return status::kScsiStatusNotGood;
     properties->sectorCount = 17592186044417;  // times 512: a whole number that a double cannot hold
     properties->logicalSectorSize = 512;
@@ -32,7 +32,7 @@ class Drive final : public Protocol {
   }
 
   Status StartSelfTest(std::uint8_t code, std::uint8_t /*count*/) override {
-    Log("self-test " + std::to_string(code) + (kind_ == FakeDrive::Ata ? " by ATA" : " by SCSI"));
+    Log("self-test " + std::to_string(code) + (IsAta() ? " by ATA" : " by SCSI"));
     if (IsInMood("endless")) std::cerr << "waiting\nwaiting\n" << std::flush;
     return kind_ == FakeDrive::Silent ? status::kDeviceError : status::kSuccess;
   }
@@ -54,8 +54,8 @@ class Drive final : public Protocol {
     return status::kSuccess;
   }
   Status GetSelfTestFailingLba(std::uint64_t& lba) override { return Report(lba, 1234, true); }
-  Status GetTemperature(std::uint8_t& degrees) override { return Report(degrees, 33, kind_ == FakeDrive::Ata); }
-  Status GetHealthStatus(std::uint8_t& healthy) override { return Report(healthy, 0, kind_ == FakeDrive::Ata); }
+  Status GetTemperature(std::uint8_t& degrees) override { return Report(degrees, 33, IsAta()); }
+  Status GetHealthStatus(std::uint8_t& healthy) override { return Report(healthy, 0, IsAta()); }
   Status GetLifeRemaining(std::uint32_t& percent) override {
     return Report(percent, kind_ == FakeDrive::Nvme ? 97 : 101, kind_ != FakeDrive::Scsi);
   }
@@ -69,6 +69,8 @@ class Drive final : public Protocol {
   Status Idle() override { return 0; }
 
  private:
+  bool IsAta() const { return kind_ == FakeDrive::Ata || kind_ == FakeDrive::OtherAta; }
+
   // A missing operation fails on SCSI drives and leaves the output untouched on NVMe drives.
   template <typename Value>
   Status Report(Value& output, std::type_identity_t<Value> value, bool isKnown) const {
@@ -78,11 +80,11 @@ class Drive final : public Protocol {
 
   FakeDrive kind_;
   int looks_ = 0;
+  bool isAborted_ = false;
 };
 
 }  // namespace
 
-  bool isAborted_ = false;
 std::shared_ptr<module::storage::Protocol> MakeFakeDrive(FakeDrive kind) {
   return std::make_shared<Drive>(kind);
 }

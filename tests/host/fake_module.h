@@ -29,7 +29,7 @@ enum FakeTest : core::TestId {
 /// Ids of the tests to list, comma separated.
 constexpr char kListEnvironment[] = "FAKE_TESTS";
 /// Space-separated words: "empty", "scan-throws", "slots-fail", "no-instance", "swallow" (tasks), "refuse" (runs),
-/// "stubborn" (about aborting), "endless" (self-tests).
+/// "stubborn" (about aborting), "endless" (self-tests), "no-vendor" (library on the simulated machine).
 constexpr char kMoodEnvironment[] = "FAKE_MOOD";
 /// Code that a self-test ends with, 0 without it.
 constexpr char kSelfTestEnvironment[] = "FAKE_SELFTEST";
@@ -40,8 +40,9 @@ bool IsInMood(const char* word);
 void Log(const std::string& line);
 std::string Environment(const char* name);
 
-/// Drives that report everything, almost nothing, only what NVMe drives do, or everything except their capacity.
-enum class FakeDrive { Ata, Silent, Nvme, Scsi };
+/// Drives that report everything, almost nothing, only what NVMe drives do, or everything except their capacity; and
+/// an ATA object that reaches another drive.
+enum class FakeDrive { Ata, Silent, Nvme, Scsi, OtherAta };
 std::shared_ptr<module::storage::Protocol> MakeFakeDrive(FakeDrive kind);
 
 core::TestResult AskFakeQuestion(core::RunReporter& reporter);
