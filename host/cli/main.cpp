@@ -6,7 +6,7 @@
 #include "host/cli/process.h"
 #include "host/library/libraries.h"
 #include "host/terminal/terminal.h"
-#include "host/text/format.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 namespace {

@@ -5,7 +5,7 @@
 #include <QJsonDocument>
 
 #include "host/privacy/hide_serials.h"
-#include "host/text/format.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 namespace {

@@ -16,7 +16,7 @@
 #include "host/run/run.h"
 #include "host/run/run_scheduler.h"
 #include "host/terminal/progress_bars.h"
-#include "host/text/translations.h"
+#include "host/text/text.h"
 #include "host/text/words.h"
 
 namespace orvik::host {

@@ -6,7 +6,7 @@
 #include "host/question/question_desk.h"
 #include "host/report/device_report.h"
 #include "host/report/run_report.h"
-#include "host/text/format.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 namespace {

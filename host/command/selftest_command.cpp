@@ -7,7 +7,7 @@
 #include "host/privacy/hide_serials.h"
 #include "host/report/device_report.h"
 #include "host/report/drive_report.h"
-#include "host/text/format.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 namespace {

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 
-#include "host/text/format.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 namespace {

@@ -4,7 +4,7 @@
 #include <exception>
 #include <utility>
 
-#include "host/text/format.h"
+#include "host/text/text.h"
 #include "host/text/words.h"
 
 namespace orvik::host {

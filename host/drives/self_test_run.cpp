@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "host/drives/drive.h"
-#include "host/text/format.h"
+#include "host/text/text.h"
 #include "host/text/words.h"
 
 namespace orvik::host {

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "host/result.h"
-#include "host/text/format.h"
+#include "host/text/text.h"
 #include "host/text/words.h"
 
 namespace orvik::host {

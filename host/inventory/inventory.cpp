@@ -6,7 +6,7 @@
 #include <optional>
 #include <set>
 
-#include "host/text/format.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 namespace {

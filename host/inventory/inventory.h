@@ -9,7 +9,7 @@
 #include "core/device_scanner.h"
 #include "core/module.h"
 #include "host/result.h"
-#include "host/text/translations.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 

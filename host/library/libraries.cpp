@@ -11,7 +11,7 @@
 #endif
 #include <exception>
 
-#include "host/text/format.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 namespace {

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "host/terminal/terminal.h"
-#include "host/text/format.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 namespace {

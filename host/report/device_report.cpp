@@ -5,8 +5,7 @@
 #include <QStringList>
 
 #include "host/drives/drive.h"
-#include "host/text/format.h"
-#include "host/text/translations.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 namespace {

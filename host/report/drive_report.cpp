@@ -8,7 +8,7 @@
 
 #include "host/drives/drive.h"
 #include "host/report/device_report.h"
-#include "host/text/format.h"
+#include "host/text/text.h"
 #include "host/text/words.h"
 
 namespace orvik::host {

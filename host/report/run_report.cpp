@@ -6,8 +6,7 @@
 #include <vector>
 
 #include "host/report/device_report.h"
-#include "host/text/format.h"
-#include "host/text/translations.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 namespace {

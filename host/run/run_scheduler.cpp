@@ -7,7 +7,7 @@
 #include <set>
 #include <utility>
 
-#include "host/text/format.h"
+#include "host/text/text.h"
 
 namespace orvik::host {
 namespace {

@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "host/terminal/progress_bars.h"
-#include "host/text/format.h"
-#include "host/text/translations.h"
+#include "host/text/text.h"
 
 using namespace std::string_literals;
 
