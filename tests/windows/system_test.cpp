@@ -82,7 +82,7 @@ TEST(ThreadsTest, RunOnTheProcessorsOfTheirMask) {
   pool.Start(1);
   // The first worker has mask 2; asking for another one tells the mask that it had.
   DWORD_PTR previous = 0;
-  pool.Submit([&] { previous = SetThreadAffinityMask(GetCurrentThread(), process); }).Get();
+  pool.Submit([&] { previous = SetThreadAffinityMask(GetCurrentThread(), process); }).get();
   EXPECT_EQ(previous, (process & 2) != 0 ? 2U : process);
 }
 
