@@ -1,5 +1,7 @@
 #include "module/storage/ata/identify_data.h"
 
+#include <hostkit.h>
+
 #include <algorithm>
 #include <array>
 #include <limits>
@@ -58,7 +60,8 @@ std::uint32_t CacheSize(ByteView data) {
 
 std::string TrimmedText(ByteView data, Words words) {
   std::string text = DecodeIdentifyString(data, words.first, words.count);
-  OwnStringHandler()->Trim(text);
+  // The contract trims with the host's string service.
+  get_string_handler()->Trim(text);
   return text;
 }
 

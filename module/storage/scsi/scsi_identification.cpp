@@ -1,5 +1,7 @@
 // Identification of a SCSI drive.
 
+#include <hostkit.h>
+
 #include <array>
 #include <limits>
 #include <string>
@@ -9,7 +11,6 @@
 #include "module/storage/scsi/scsi_protocol.h"
 #include "module/storage/standards/spc_versions.h"
 #include "module/storage/standards/version_descriptors.h"
-#include "utils/text/string_handler.h"
 
 namespace orvik::module::storage {
 
@@ -25,7 +26,8 @@ constexpr std::uint32_t kHintNoFailurePrediction = 2;
 
 std::string TextUntilZero(ByteView data, utils::Block block) {
   std::string text = data.Text(block);
-  text.resize(OwnStringHandler()->BoundedLength(text.data(), text.size()));
+  // The contract bounds the text with the host's string service.
+  text.resize(get_string_handler()->BoundedLength(text.data(), text.size()));
   return text;
 }
 

@@ -9,8 +9,16 @@
 namespace orvik::module::storage {
 
 WinHalScsiSend& WinHalScsiSend::Instance() {
-  static WinHalScsiSend sender;
-  return sender;
+  // The class has a destructor in its first slot; the union keeps it from running when the library is unloaded.
+  static union NeverDestroyed {
+    NeverDestroyed() : sender() {}
+    NeverDestroyed(const NeverDestroyed&) = delete;
+    NeverDestroyed& operator=(const NeverDestroyed&) = delete;
+    ~NeverDestroyed() {}  // NOLINT(modernize-use-equals-default): a default would be deleted
+
+    WinHalScsiSend sender;
+  } holder;
+  return holder.sender;
 }
 
 Status WinHalScsiSend::Send(HANDLE device, std::int32_t spare, ScsiCmd& command) {
