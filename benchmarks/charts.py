@@ -22,20 +22,20 @@ def _document(width, height, parts):
 
 
 def ratios(title, rows):
-    """Bars for (label, ratio, bar or None), a tick where each bar of the house stands."""
+    """Draws a bar for each (label, ratio, limit or None), with a tick at the limit."""
     left, right, step, top = 400, 60, 20, 40
     width, height = 900, top + step * len(rows) + 20
-    scale = (width - left - right) / max([1.3] + [ratio for _, ratio, _ in rows] + [bar or 0 for *_, bar in rows])
+    scale = (width - left - right) / max([1.3] + [ratio for _, ratio, _ in rows] + [limit or 0 for *_, limit in rows])
     parts = [_text(12, 22, title), _line(left + scale, top - 8, left + scale, height - 12, dash="4 3"),
              _text(left + scale, top - 12, "1.0", "middle")]
-    for number, (label, ratio, bar) in enumerate(rows):
+    for number, (label, ratio, limit) in enumerate(rows):
         y = top + step * number
-        colour = FAINT if bar is None else GOOD if ratio <= bar else BAD
+        colour = FAINT if limit is None else GOOD if ratio <= limit else BAD
         parts += [_text(left - 8, y + 12, label, "end"),
                   f'<rect x="{left}" y="{y + 2}" width="{ratio * scale:.1f}" height="{step - 6}" fill="{colour}"/>',
-                  _text(left + max(ratio, bar or 0) * scale + 6, y + 12, f"{ratio:.2f}")]
-        if bar is not None:
-            parts.append(_line(left + bar * scale, y, left + bar * scale, y + step - 2, INK))
+                  _text(left + max(ratio, limit or 0) * scale + 6, y + 12, f"{ratio:.2f}")]
+        if limit is not None:
+            parts.append(_line(left + limit * scale, y, left + limit * scale, y + step - 2, INK))
     return _document(width, height, parts)
 
 

@@ -123,7 +123,7 @@ class Subject {
   void SendCommands() {
     for (typename Kind::Command command : commands_) {
       if (command.length != 0) command.buffer = buffer_.data();
-      bare_.Send(command);
+      benchmark::DoNotOptimize(bare_.Send(command));
     }
   }
 

@@ -1,4 +1,4 @@
-"""Sets the results of benchmarks/run.sh against each other and against the bars that they are to stay below."""
+"""Compares the results of benchmarks/run.sh with each other and with their limits."""
 
 import argparse
 import collections
@@ -11,7 +11,7 @@ import charts
 
 
 def read(folder):
-    """For each benchmark its repetitions; of those that failed none."""
+    """Returns the repetitions of each benchmark; exits if one failed."""
     runs = collections.defaultdict(list)
     for path in sorted(folder.glob("*.json")):
         for run in json.loads(path.read_text())["benchmarks"]:
@@ -26,44 +26,44 @@ def read(folder):
 class Report:
     def __init__(self, runs):
         self.runs = runs
-        self.rows = []  # label, ratio, bar
+        self.rows = []  # label, ratio, limit
         self.lines = []
         self.missed = []
 
     def median(self, name, value):
         return statistics.median(run[value] for run in self.runs[name])
 
-    def add(self, label, ratio, bar, figures=""):
-        verdict = "" if bar is None else "ok" if ratio <= bar else "MISSED"
+    def add(self, label, ratio, limit, figures=""):
+        verdict = "" if limit is None else "ok" if ratio <= limit else "MISSED"
         if verdict == "MISSED":
             self.missed.append(label)
-        self.rows.append((label, ratio, bar))
-        self.lines.append(f'{label:58} {ratio:6.2f} {"" if bar is None else f"<= {bar:.2f}":8} {verdict:7} {figures}')
+        self.rows.append((label, ratio, limit))
+        self.lines.append(f'{label:58} {ratio:6.2f} {"" if limit is None else f"<= {limit:.2f}":8} {verdict:7} {figures}')
 
-    def compare(self, label, ours, other, bar, value="cpu_time"):
+    def compare(self, label, ours, other, limit, value="cpu_time"):
         mine, theirs = self.median(ours, value), self.median(other, value)
         unit = self.runs[ours][0]["time_unit"]
-        self.add(label, mine / theirs, bar, f"{mine:.4g} {unit} / {theirs:.4g} {unit}")
+        self.add(label, mine / theirs, limit, f"{mine:.4g} {unit} / {theirs:.4g} {unit}")
 
     def dispatch(self):
-        for other, bar in (("Concurrent", 0.7), ("BarePool", None)):
+        for other, limit in (("Concurrent", 0.7), ("BarePool", 1.0)):
             name = {"Concurrent": "QtConcurrent::run", "BarePool": "QThreadPool::start"}[other]
             for producers in (1, 4):
                 for workers in (1, 2, 4):
                     size = f"/producers:{producers}/workers:{workers}"
                     self.compare(f"Dispatch, producers {producers}, workers {workers} / {name}",
-                                 f"EmptyTasks<Dispatcher>{size}", f"EmptyTasks<{other}>{size}", bar, "real_time")
+                                 f"EmptyTasks<Dispatcher>{size}", f"EmptyTasks<{other}>{size}", limit, "real_time")
 
     def module(self):
-        for time, bar in ((5, 1.1), (0, None)):
+        for time, limit in ((5, 1.1), (0, None)):
             requests = f"requests of {time} us" if time else "requests of no time"
             suffix = f"/request_us:{time}"
-            self.compare(f"Scan, {requests} / calls alone", f"ScanByModule{suffix}", f"ScanByCallsAlone{suffix}", bar)
+            self.compare(f"Scan, {requests} / calls alone", f"ScanByModule{suffix}", f"ScanByCallsAlone{suffix}", limit)
             for work in ("Identify", "Read"):
                 for protocol in ("ATA", "SCSI", "NVMe"):
                     self.compare(f"{work} {protocol}, {requests} / bridge", f"{work}ByProtocol/{protocol}{suffix}",
-                                 f"{work}ByBridge/{protocol}{suffix}", bar)
-        self.compare("One copy of what a scan tells / calls alone", "DescriptionsAlone/request_us:0",
+                                 f"{work}ByBridge/{protocol}{suffix}", limit)
+        self.compare("One copy of the scan result / calls alone", "DescriptionsAlone/request_us:0",
                      "ScanByCallsAlone/request_us:0", None)
 
     def growth(self):
@@ -84,7 +84,7 @@ def main():
     arguments = argparse.ArgumentParser()
     arguments.add_argument("folder", type=pathlib.Path)
     arguments.add_argument("--draw", type=pathlib.Path)
-    arguments.add_argument("--no-bars", action="store_true")
+    arguments.add_argument("--no-limits", action="store_true")
     options = arguments.parse_args()
     report = Report(read(options.folder))
     report.dispatch()
@@ -94,9 +94,9 @@ def main():
     print("\n".join(report.lines))
     if options.draw:
         options.draw.parent.mkdir(parents=True, exist_ok=True)
-        options.draw.write_text(charts.ratios("Time taken, as a share of what it is measured beside; the tick is the bar",
+        options.draw.write_text(charts.ratios("Time taken, relative to the reference; the tick marks the limit",
                                               report.rows))
-    if report.missed and not options.no_bars:
+    if report.missed and not options.no_limits:
         sys.exit("missed: " + "; ".join(report.missed))
 
 

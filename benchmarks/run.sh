@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds and runs the benchmarks and tells how they stand to their bars: benchmarks/run.sh [--quick]
-# In full (about five minutes) it ends with 1 when a bar is missed and draws docs/images/benchmarks.svg. The quick form
-# only sees to it that everything runs.
+# Builds and runs the benchmarks and compares the results with their limits: benchmarks/run.sh [--quick]
+# In full (about five minutes) it exits with 1 if a limit is exceeded, and draws docs/images/benchmarks.svg. The quick
+# form only checks that everything runs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -14,7 +14,7 @@ cmake --preset release -DORVIK_BENCHMARKS=ON > "$results/configure.log" || { tai
 scripts/build.sh release dispatch_benchmark module_benchmark load_benchmark
 
 # measure RESULT PROGRAM SECONDS REPETITIONS [OPTION]...
-# Repetitions of everything are mixed, so that what else the machine does meets all sides of a comparison.
+# Repetitions are mixed at random, so that other load on the machine affects all sides of a comparison alike.
 measure() {
   local result=$1 program=$2 seconds=$3 repetitions=$4
   shift 4
@@ -30,4 +30,4 @@ measure module module_benchmark 0.1 9 --benchmark_filter=-AbortToCancel
 measure abort module_benchmark 1 51 --benchmark_filter=AbortToCancel
 measure load load_benchmark 0.05 41
 
-python3 benchmarks/report.py "$results" ${quick:+--no-bars} $([ -n "$quick" ] || echo --draw docs/images/benchmarks.svg)
+python3 benchmarks/report.py "$results" ${quick:+--no-limits} $([ -n "$quick" ] || echo --draw docs/images/benchmarks.svg)
