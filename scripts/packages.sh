@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the missing Debian packages of the named groups: bench, build, clang, fuzz, lint, pictures, windows.
+# Installs the missing Debian packages of the named groups: bench, build, clang, fuzz, lint, mutation, pictures,
+# windows.
 # Root and CI (CI=true) install directly; other users are asked first, because it takes sudo.
 set -euo pipefail
 
@@ -11,6 +12,7 @@ declare -A groups=(
   [clang]="clang"
   [pictures]="fonts-dejavu-core imagemagick"
   [lint]="clang-format clang-tidy binutils"
+  [mutation]="python3"
   [windows]="g++-mingw-w64-x86-64-posix qt6-base-dev-tools dpkg-dev wine wine64 xvfb zip unzip"
 )
 
