@@ -12,6 +12,7 @@ namespace {
 
 constexpr auto kIdentify = "EC f00 n0001 l0000.0000.0000 d00 in 512";
 constexpr auto kReadLabel = "2F f00 n0001 l00DF.0000.0000 d00 in 512";
+constexpr auto kReadData = "B0 fD0 n0001 l0000.004F.00C2 d00 in 512";
 
 using Words = std::vector<std::pair<std::size_t, std::vector<std::uint16_t>>>;
 
@@ -75,7 +76,6 @@ TEST_F(AtaProtocolTest, SaysWhyATransferFailed) {
 }
 
 TEST_F(AtaProtocolTest, ReadsSmartData) {
-  constexpr auto kReadData = "B0 fD0 n0001 l0000.004F.00C2 d00 in 512";
   const auto smart = Answers(Reply(512, {{2, {194, 0, 0, 100, 0, 41}},
                                          {14, {233, 0, 0, 0}},
                                          {26, {233, 0, 0, 254}},
@@ -91,6 +91,24 @@ TEST_F(AtaProtocolTest, ReadsSmartData) {
   EXPECT_EQ(Ask(&Protocol::GetTemperature, {{kReadData, EndsWithError(4)}}), Result(88, 99));
   EXPECT_EQ(Ask(&Protocol::GetSelfTestResult, {{kReadData, Fails(125)}}), Result(125, 99));
   EXPECT_EQ(Ask(&Protocol::GetLifeRemaining, {{kReadData, EndsWithError(4)}}), Result(0, 99));
+}
+
+TEST_F(AtaProtocolTest, TakesItsSelfTestsFromSmartDataOnly) {
+  using Flags = std::array<bool, 5>;  // valid data, off-line activity, its abort, self-test, conveyance self-test
+  using Case = std::pair<Answer, Flags>;
+  const auto offers = [](std::uint8_t capability) { return Answers(Reply(512, {{367, {capability}}})); };
+  for (const auto& [smart, expected] :
+       {Case{offers(0x01), {true, true}}, Case{offers(0x04), {true, false, true}},
+        Case{offers(0x10), {true, false, false, true}}, Case{offers(0x20), {true, false, false, false, true}},
+        Case{offers(0xCA), {true}}, Case{Fails(status::kIoctlFailed), {}}}) {
+    Expect(
+        {{kIdentify, Answers(Identify({{82, {1}}}))}, {kReadLabel, Fails(status::kIoctlFailed)}, {kReadData, smart}});
+    ProtocolProperties drive;
+    EXPECT_EQ(protocol.GetProperties(&drive), status::kSuccess);
+    EXPECT_EQ((Flags{drive.smartDataValid, drive.offlineImmediateSupported, drive.offlineAbortSupported,
+                     drive.selfTestSupported, drive.conveyanceSelfTestSupported}),
+              expected);
+  }
 }
 
 TEST_F(AtaProtocolTest, StartsAndAbortsSelfTests) {
