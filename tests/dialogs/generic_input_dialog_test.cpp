@@ -60,6 +60,10 @@ TEST_F(GenericInputDialogTest, ButtonsGiveTheirAnswers) {
     EXPECT_EQ(request->answer, 0U);
     for (std::size_t i = 0; i < row.names.size(); ++i) {
       const auto dialog = Show(*request);
+      if (i > 0) {
+        const int left = Child(*dialog, row.names[i - 1])->geometry().right();
+        EXPECT_GT(Child(*dialog, row.names[i])->x() - left, 10);
+      }
       Click(*dialog, row.names[i]);
       EXPECT_EQ(request->answer, row.answers[i]);
       for (const int unknown : {-2, 4}) {

@@ -106,7 +106,8 @@ TEST_F(ScsiProtocolTest, JudgesHealthByPageThenSenseThenOperatingSystem) {
     EXPECT_EQ(health({{kExceptions, good}, {kRequestSense, bad}}), Result(34, 99));
   }
 
-  // A long page is asked for again.
+  // A page longer than the first reply is asked for again.
+  EXPECT_EQ(health({{kExceptions, Answers(Exceptions(248, 0x5D))}}), Result(0, 0));
   bridge->Expect(kExceptions, Answers(Exceptions(300, 0)));
   EXPECT_EQ(health({{"4D 00 6F 00 00 00 00 01 30 00 in 304", failing}}), Result(0, 0));
   bridge->Expect(kExceptions, Answers(Exceptions(0xFFFF, 0)));
