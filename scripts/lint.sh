@@ -34,7 +34,7 @@ only_in '\b(memcpy|memmove|memset|strcpy|sprintf)\b' \
   "raw copies belong in the bounded views" utils/bytes simulation/bytes.h
 only_in 'reinterpret_cast|__attribute__\(\(packed|#pragma pack' \
   "casts of buffers belong in the headers for bytes" utils/bytes simulation/bytes.h \
-  utils/windows/unique_handle.h platform/hostkit/libraries.cpp platform/windows host/library
+  platform/hostkit/libraries.cpp platform/windows host/library
 only_in '\b(CloseHandle|SetupDiDestroyDeviceInfoList)\(' \
   "handles must have owners that close them" utils/windows/unique_handle.h platform/windows
 hits=$(git grep --untracked -nE '#include <(latch|barrier|semaphore)>' -- '*.h' '*.cpp')

@@ -2,6 +2,8 @@
 #include <QtPlugin>
 #ifdef Q_OS_WIN
 #include <windows.h>
+
+#include <bit>
 #endif
 
 #include <skinkit.h>
@@ -16,7 +18,7 @@ void PinLibrary() {
   static constexpr char kInThisLibrary = 0;
   constexpr DWORD kFlags = GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS;
   HMODULE library = nullptr;
-  GetModuleHandleExW(kFlags, reinterpret_cast<LPCWSTR>(&kInThisLibrary), &library);
+  GetModuleHandleExW(kFlags, std::bit_cast<LPCWSTR>(&kInThisLibrary), &library);
 }
 Q_CONSTRUCTOR_FUNCTION(PinLibrary)
 

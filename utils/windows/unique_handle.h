@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <utility>
 
 #include <windows.h>
@@ -47,11 +46,6 @@ struct DeviceInfoSetTraits {
   static Value Empty() { return INVALID_HANDLE_VALUE; }
   static void Release(Value set) { SetupDiDestroyDeviceInfoList(set); }
 };
-
-/// The handle as the number that device records carry.
-inline std::uint64_t HandleNumber(HANDLE handle) {
-  return reinterpret_cast<std::uintptr_t>(handle);
-}
 
 /// An open file or device; closed with its owner.
 using UniqueHandle = UniqueResource<FileHandleTraits>;
