@@ -102,7 +102,7 @@ class Processes:
             output, _ = process.communicate(timeout=limit)
             code = process.returncode
         except subprocess.TimeoutExpired:
-            os.killpg(process.pid, signal.SIGKILL)
+            self.signal(process, signal.SIGKILL)
             output, _ = process.communicate()
             code = None
         with self.lock:
@@ -114,11 +114,21 @@ class Processes:
     def stop(self):
         with self.lock:
             self.stopped = True
-            for process in self.running:
-                try:
-                    os.killpg(process.pid, signal.SIGKILL)
-                except ProcessLookupError:
-                    pass  # it has just ended
+            running = list(self.running)
+        for process in running:
+            self.signal(process, signal.SIGTERM)  # ninja passes it on to the compilers, which are not in its group
+        for process in running:
+            try:
+                process.wait(timeout=5)
+            except subprocess.TimeoutExpired:
+                self.signal(process, signal.SIGKILL)
+
+    @staticmethod
+    def signal(process, number):
+        try:
+            os.killpg(process.pid, number)
+        except ProcessLookupError:
+            pass  # it has just ended
 
 
 processes = Processes()
