@@ -132,13 +132,13 @@ class ConsistencyTest : public ::testing::Test, protected core::RunReporter {
 };
 
 TEST_F(ConsistencyTest, ChecksDrivesWithRedundancyAndSkipsTheOthers) {
-  EXPECT_EQ(Run({Redundant(0), Striped(1), Inconsistent(2), Redundant(7)}), TestResult::Warning);
+  EXPECT_EQ(Run({Redundant(0), Striped(1), Inconsistent(2), Redundant(239)}), TestResult::Warning);
   EXPECT_EQ(
       reports_,
       (Texts{"0%", "I RUNNING_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE: 0", "12%", "I CONSISTENT_LOGICAL_DRIVE: 0", "50%",
              "I UNSUPPORTED_RAID_LEVEL_IN_LOGICAL_DRIVE: 1", "I TEST_DOESNT_SUPPORT_RAID_LEVEL: RAID 0", "0%",
              "I RUNNING_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE: 2", "62%", "E INCONSISTENT_LOGICAL_DRIVE: 2", "0%",
-             "I RUNNING_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE: 7", "87%", "I CONSISTENT_LOGICAL_DRIVE: 7", "100%"}));
+             "I RUNNING_CHECK_CONSISTENCY_ON_LOGICAL_DRIVE: 239", "87%", "I CONSISTENT_LOGICAL_DRIVE: 239", "100%"}));
   EXPECT_EQ(Calls("STORELIB_START_CHECK"), 3U);
   EXPECT_EQ(Calls("STORELIB_CANCEL_CHECK"), 0U);
 }
