@@ -170,7 +170,7 @@ TEST(IdentifyDataTest, ReadsTheDrivesFeatures) {
 TEST(IdentifyDataTest, ReadsSectorSizesAndRates) {
   using Case = std::tuple<Words, std::uint32_t, std::uint32_t, std::uint16_t>;
   for (const auto& [words, logical, physical, rate] :
-       std::vector<Case>{{{{106, {0x5000}}, {117, {4096}}, {217, {1025}}}, 4096, 4096, 1025},  // not in words
+       std::vector<Case>{{{{106, {0x5002}}, {117, {4096}}, {217, {1025}}}, 4096, 4096, 1025},  // not in words
                          {{{106, {0x7002}}, {117, {1024}}, {217, {65534}}}, 1024, 4096, 65534},
                          {{{106, {0x1000}}, {117, {4096}}, {217, {65535}}}, 512, 512, 0},  // not marked valid
                          {{{106, {0xF003}}, {117, {4096}}, {217, {1024}}}, 512, 512, 0},   // marked invalid

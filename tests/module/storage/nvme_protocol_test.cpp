@@ -27,12 +27,13 @@ class NvmeProtocolTest : public DriveTest<NvmeProtocol, ScriptedNvme> {
 };
 
 TEST_F(NvmeProtocolTest, IdentifiesAllNamespacesOrTheFirstActiveOne) {
-  const Bytes controller = Reply(4096, {{4, Chars("  SER\x01IAL            ")}, {256, {0x08}}});
+  const Bytes controller = Reply(4096, {{4, Chars("  SER\x01IAL            ")}, {24, Bytes(48, 'M')}, {256, {0x08}}});
   Expect({{IdentifyOf(0, 1), Answers(controller)},
           {IdentifyOf(0xFFFFFFFF, 0), Answers(Namespace(100, 50, 0x12, 12))},
           {kLabelLog, Answers(Reply(512, {{110, Bytes(31, 'L')}}))}});
   EXPECT_EQ(protocol.GetProperties(&properties), status::kSuccess);
   EXPECT_EQ(properties.serialNumber + " " + properties.labelText, "SER?IAL " + std::string(30, 'L'));
+  EXPECT_EQ(properties.model + " " + properties.firmwareRevision, std::string(40, 'M') + " " + std::string(8, 'M'));
   EXPECT_EQ(properties.sectorCount, 100U);
   EXPECT_EQ(properties.logicalSectorSize, 4096U);
 

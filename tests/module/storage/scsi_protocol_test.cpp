@@ -81,6 +81,7 @@ TEST_F(ScsiProtocolTest, TellsHowFarASelfTestIs) {
     const Bytes sense = Reply(18, {{0, {response, 0, key}}, {15, specific}});
     return Ask(&Protocol::GetSelfTestProgress, {{kRequestSense, Answers(sense)}});
   };
+  EXPECT_EQ(progress(0x70, 0, {0x80, 0x40, 0}), Result(0, 25));
   EXPECT_EQ(progress(0x70, 2, {0x80, 0x80, 0}), Result(0, 50));
   EXPECT_EQ(progress(0x70, 3, {0x80, 0x80, 0}), Result(1, 99));
   EXPECT_EQ(progress(0x72, 2, {}), Result(1, 99));
