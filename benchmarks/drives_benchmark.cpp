@@ -154,7 +154,7 @@ void ByProtocol(benchmark::State& state) {
   InstallDrives(state);
   Subject<Kind> subject(kOperation);
   if (!subject.works) return state.SkipWithError("the drive does not answer");
-  for ([[maybe_unused]] const auto& iteration : state) subject.Run();
+  for ([[maybe_unused]] const auto& iteration : state) benchmark::DoNotOptimize(subject.Run());
 }
 
 template <typename Kind, Operation kOperation>

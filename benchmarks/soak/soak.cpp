@@ -160,27 +160,28 @@ class Soak {
   }
 
   void UseDrive(module::storage::Protocol& drive) {
+    using module::storage::Ignore;  // some calls fail on purpose
     module::storage::ProtocolProperties properties;
     // The sizes of reads and writes are those of the sectors that identification found.
     if (drive.GetProperties(&properties) != 0) return;
     std::vector<std::uint8_t> buffer(std::size_t{8} * std::max(properties.logicalSectorSize, 512U));
-    drive.Read(0, 8, 0, buffer.data(), static_cast<std::uint32_t>(buffer.size()));
-    drive.Write(8, 8, 0, buffer.data());
+    Ignore(drive.Read(0, 8, 0, buffer.data(), static_cast<std::uint32_t>(buffer.size())));
+    Ignore(drive.Write(8, 8, 0, buffer.data()));
     std::uint8_t byte = 0;
     std::uint32_t number = 0;
     std::uint64_t lba = 0;
-    drive.GetTemperature(byte);
-    drive.GetHealthStatus(byte);
-    drive.StartSelfTest(1, 0);
-    drive.GetSelfTestProgress(byte);
-    drive.AbortSelfTest();
-    drive.GetSelfTestResult(byte);
-    drive.GetSelfTestFailingLba(lba);
-    drive.SetSmartEnabled(1);
-    drive.WriteUncorrectable(100);
-    drive.GetLifeRemaining(number);
-    drive.GetPowerMode(number);
-    drive.Idle();
+    Ignore(drive.GetTemperature(byte));
+    Ignore(drive.GetHealthStatus(byte));
+    Ignore(drive.StartSelfTest(1, 0));
+    Ignore(drive.GetSelfTestProgress(byte));
+    Ignore(drive.AbortSelfTest());
+    Ignore(drive.GetSelfTestResult(byte));
+    Ignore(drive.GetSelfTestFailingLba(lba));
+    Ignore(drive.SetSmartEnabled(1));
+    Ignore(drive.WriteUncorrectable(100));
+    Ignore(drive.GetLifeRemaining(number));
+    Ignore(drive.GetPowerMode(number));
+    Ignore(drive.Idle());
   }
 
   void Sample(double seconds, unsigned round) const {
