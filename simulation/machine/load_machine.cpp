@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <algorithm>
 #include <set>
+#include <utility>
 
 #include "simulation/json/readers.h"
 
@@ -59,7 +60,7 @@ std::string LineAndColumn(const QByteArray& text, qsizetype offset) {
 // silently. For a text that is JSON.
 class DuplicateKeys {
  public:
-  DuplicateKeys(const QByteArray& text, Complaint& complaint) : text_(text), complaint_(&complaint) {}
+  DuplicateKeys(QByteArray text, Complaint& complaint) : text_(std::move(text)), complaint_(&complaint) {}
 
   void Find() {
     for (qsizetype i = 0; i < text_.size() && !complaint_->Made(); ++i) {
